@@ -55,14 +55,14 @@ typedef struct GGradationInfo {
 
 /** Working state of the polygon filler, valid during one fill. */
 typedef struct GPolygonState {
-    struct GEdge* pending;  /**< edges not yet reached */
-    struct GEdge* active;   /**< edges that cross the current line */
-    struct GEdge* edges;    /**< the block that holds them all */
-    int16_t pattern;        /**< fill pattern number */
-    uint16_t mode;          /**< drawing mode */
-    uint32_t fore;          /**< fore pixel value */
-    uint32_t back;          /**< back pixel value */
-    const uint8_t* rows;    /**< the eight pattern bytes, null for a solid fill */
+    struct GEdge* pending; /**< edges not yet reached */
+    struct GEdge* active;  /**< edges that cross the current line */
+    struct GEdge* edges;   /**< the block that holds them all */
+    int16_t pattern;       /**< fill pattern number */
+    uint16_t mode;         /**< drawing mode */
+    uint32_t fore;         /**< fore pixel value */
+    uint32_t back;         /**< back pixel value */
+    const uint8_t* rows;   /**< the eight pattern bytes, null for a solid fill */
 } GPolygonState;
 
 /** What a wide line leaves behind for the join with the next one. */
@@ -74,13 +74,13 @@ typedef struct GWideLineState {
 
 /** Working state of the ellipse fill, valid during one fill. */
 typedef struct GEllipseState {
-    uint32_t fore;       /**< first colour as a pixel value */
-    uint32_t back;       /**< second colour as a pixel value */
-    uint16_t mode;       /**< drawing mode */
-    const uint8_t* rows; /**< the eight pattern bytes, or null */
-    int16_t leftCentre;  /**< centre column of the left quarters */
-    int16_t rightCentre; /**< centre column of the right quarters */
-    int16_t topCentre;   /**< centre row of the upper quarters */
+    uint32_t fore;        /**< first colour as a pixel value */
+    uint32_t back;        /**< second colour as a pixel value */
+    uint16_t mode;        /**< drawing mode */
+    const uint8_t* rows;  /**< the eight pattern bytes, or null */
+    int16_t leftCentre;   /**< centre column of the left quarters */
+    int16_t rightCentre;  /**< centre column of the right quarters */
+    int16_t topCentre;    /**< centre row of the upper quarters */
     int16_t bottomCentre; /**< centre row of the lower quarters */
 } GEllipseState;
 
@@ -93,27 +93,27 @@ typedef struct GArcState {
 
 /** A draw handle. All fields are zero after GDOpenDrawHandle() unless stated there. */
 struct GDrawHandle {
-    GRect view;           /**< the whole surface; limit of every clip rectangle */
-    GPoint localOrigin;   /**< application coordinate of surface pixel (0, 0) in local mode */
-    GRect virtualRect;    /**< application frame of virtual mode */
-    GPoint penPos;        /**< pen position */
-    uint32_t penPixel;    /**< pen colour as a pixel value */
-    int16_t penWidth;     /**< at least 1 */
-    int16_t penHeight;    /**< at least 1 */
-    uint16_t penJoin;     /**< #G_JOIN_BEVEL, #G_JOIN_ROUND; any other value draws no join */
-    int16_t penDash;      /**< 0 solid, n from 1 to 8 uses row n - 1 of `dashes` */
-    int16_t dashPhase;    /**< 0 to 63, carried from one line to the next */
-    int16_t textMode;     /**< #G_TEXT_TRANSPARENT or 0 */
-    uint32_t forePixel;   /**< fore colour as a pixel value */
-    uint32_t backPixel;   /**< back colour as a pixel value */
-    int16_t fillPattern;  /**< 0 to 37, or a fill style */
-    uint16_t modeFlags;   /**< #G_FLAG_VIRTUAL or 0 */
-    int16_t drawingMode;  /**< 0 to 3 */
-    GVram* display;       /**< the surface that GDGetVram() gives and closing hands back */
-    GVram* target;        /**< the surface that drawing writes to */
-    GFontRecord* font;    /**< the current font, or null */
+    GRect view;                /**< the whole surface; limit of every clip rectangle */
+    GPoint localOrigin;        /**< application coordinate of surface pixel (0, 0) in local mode */
+    GRect virtualRect;         /**< application frame of virtual mode */
+    GPoint penPos;             /**< pen position */
+    uint32_t penPixel;         /**< pen colour as a pixel value */
+    int16_t penWidth;          /**< at least 1 */
+    int16_t penHeight;         /**< at least 1 */
+    uint16_t penJoin;          /**< #G_JOIN_BEVEL, #G_JOIN_ROUND; any other value draws no join */
+    int16_t penDash;           /**< 0 solid, n from 1 to 8 uses row n - 1 of `dashes` */
+    int16_t dashPhase;         /**< 0 to 63, carried from one line to the next */
+    int16_t textMode;          /**< #G_TEXT_TRANSPARENT or 0 */
+    uint32_t forePixel;        /**< fore colour as a pixel value */
+    uint32_t backPixel;        /**< back colour as a pixel value */
+    int16_t fillPattern;       /**< 0 to 37, or a fill style */
+    uint16_t modeFlags;        /**< #G_FLAG_VIRTUAL or 0 */
+    int16_t drawingMode;       /**< 0 to 3 */
+    GVram* display;            /**< the surface that GDGetVram() gives and closing hands back */
+    GVram* target;             /**< the surface that drawing writes to */
+    GFontRecord* font;         /**< the current font, or null */
     const GPixelOps* pixelOps; /**< the operations for `target` and `drawingMode` */
-    uint8_t dashes[G_DASH_COUNT][8];               /**< 64 steps each, least significant bit first */
+    uint8_t dashes[G_DASH_COUNT][8]; /**< 64 steps each, least significant bit first */
     uint8_t fillPatterns[G_FILL_PATTERN_COUNT][8]; /**< eight rows each, bit 7 leftmost */
     GPolygonState polygon;
     GWideLineState wideLine;
@@ -233,18 +233,19 @@ QUARLO_API GDrawHandle* GDSetTextAlign(GDrawHandle* handle, int32_t alignment);
 QUARLO_API void GDSetGradationInfo(GDrawHandle* handle, const GGradationInfo* info);
 
 /**
- * Forwards to service 10 (which the platform must have): changes palette entries of the display.
+ * Forwards to service 10 (which the platform must have): changes palette entries of the handle's
+ * device surface.
  *
- * @param surface the surface, or null for the display
  * @param first first entry
  * @param count number of entries
  * @param colors `count` colours, 0x00RRGGBB
  * @return the service's result
  */
-QUARLO_API GWord GDSetPalette(GVram* surface, int32_t first, int32_t count, const uint32_t* colors);
+QUARLO_API GWord GDSetPalette(GDrawHandle* handle, int32_t first, int32_t count,
+                              const uint32_t* colors);
 
 /** Forwards to service 11, reading the entries that GDSetPalette() sets. */
-QUARLO_API GWord GDGetPalette(GVram* surface, int32_t first, int32_t count, uint32_t* colors);
+QUARLO_API GWord GDGetPalette(GDrawHandle* handle, int32_t first, int32_t count, uint32_t* colors);
 
 QUARLO_END
 

@@ -23,21 +23,21 @@ enum { G_MEMORY_SURFACE = -1 };
 
 /** A surface. */
 struct GVram {
-    int16_t id;             /**< -1 for a memory surface, else the device surface's number */
-    int16_t width;          /**< pixels a row, 1 to 2560 */
-    int16_t height;         /**< rows, 1 to 2560 */
-    int16_t bitsPerPixel;   /**< 8, 16 or 24 */
-    int16_t bytesPerLine;   /**< bytes from one row to the next; memory surfaces are not padded */
-    uint8_t* pixels;        /**< `height` x `bytesPerLine` bytes, top row first, left pixel first */
-    uint32_t reserved;      /**< 0 for a memory surface, the platform's otherwise */
-    int8_t colorType;       /**< #G_COLOR_DIRECT or #G_COLOR_PALETTE */
-    uint32_t redMask;       /**< where red lies in a pixel value */
-    uint32_t greenMask;     /**< where green lies in a pixel value */
-    uint32_t blueMask;      /**< where blue lies in a pixel value */
-    uint16_t paletteCount;  /**< entries in `palette` */
-    uint32_t* palette;      /**< the surface's own colour table, or null */
-    GRect bounds;           /**< (0, 0, width - 1, height - 1) */
-    GRect* drawable;        /**< what all drawing is clipped to; a memory surface's own `bounds` */
+    int16_t id;            /**< -1 for a memory surface, else the device surface's number */
+    int16_t width;         /**< pixels a row, 1 to 2560 */
+    int16_t height;        /**< rows, 1 to 2560 */
+    int16_t bitsPerPixel;  /**< 8, 16 or 24 */
+    int16_t bytesPerLine;  /**< bytes from one row to the next; memory surfaces are not padded */
+    uint8_t* pixels;       /**< `height` x `bytesPerLine` bytes, top row first, left pixel first */
+    uint32_t reserved;     /**< 0 for a memory surface, the platform's otherwise */
+    int8_t colorType;      /**< #G_COLOR_DIRECT or #G_COLOR_PALETTE */
+    uint32_t redMask;      /**< where red lies in a pixel value */
+    uint32_t greenMask;    /**< where green lies in a pixel value */
+    uint32_t blueMask;     /**< where blue lies in a pixel value */
+    uint16_t paletteCount; /**< entries in `palette` */
+    uint32_t* palette;     /**< the surface's own colour table, or null */
+    GRect bounds;          /**< (0, 0, width - 1, height - 1) */
+    GRect* drawable;       /**< what all drawing is clipped to; a memory surface's own `bounds` */
 };
 
 /**
