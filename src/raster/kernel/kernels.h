@@ -1,0 +1,59 @@
+// The kernels: what primitives do to memory, one set for each pixel format and drawing mode.
+//
+// Kernels know nothing of surfaces or clipping. They are given addresses and counts that lie inside
+// pixel memory, write there and nowhere else, and return the cursor: the address behind the pixel
+// that was written last.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+namespace quarlo::kernel {
+
+/// A walk along a line's major axis (midpoint algorithm): `count` pixels, each `major` bytes from
+/// the one before, and `minor` bytes further whenever the error reaches zero.
+struct LineSteps {
+    int32_t count;
+    ptrdiff_t major;
+    ptrdiff_t minor;
+    int32_t error;
+    int32_t grow;   ///< added to the error at each pixel
+    int32_t shrink; ///< taken from it at each minor step
+};
+
+/// A dash pattern on its way along a line.
+struct DashSteps {
+    uint64_t pattern; ///< step k is bit k; a set bit draws
+    uint32_t phase;   ///< 16.16 fixed point, before the first pixel
+    uint32_t step;    ///< 16.16 fixed point, added before each pixel
+};
+
+/// All kernels of one format and mode. Counts are at least 1.
+struct Kernels {
+    int32_t bytesPerPixel;
+
+    /// A solid rectangle; a span is one of height 1.
+    uint8_t* (*fill)(uint8_t* at, ptrdiff_t stride, int32_t width, int32_t height, uint32_t pixel);
+
+    /// A rectangle in an 8 x 8 pattern. (x, y) is where `at` lies in the frame that the pattern is
+    /// anchored to; bit 7 of a row is its leftmost pixel.
+    uint8_t* (*fillPattern)(uint8_t* at, ptrdiff_t stride, int32_t width, int32_t height,
+                            uint32_t fore, uint32_t back, const uint8_t rows[8], int32_t x,
+                            int32_t y);
+
+    uint8_t* (*line)(uint8_t* at, const LineSteps& steps, uint32_t pixel);
+
+    /// Null when every step fell into a gap.
+    uint8_t* (*dashedLine)(uint8_t* at, const LineSteps& steps, const DashSteps& dash,
+                           uint32_t pixel);
+
+    void (*putPixel)(uint8_t* at, uint32_t pixel);
+};
+
+/// The kernels for 8, 16 or 24 bits a pixel and drawing mode 0 to 3; null for anything else.
+const Kernels* kernelsFor(int32_t bitsPerPixel, int32_t mode);
+
+/// Reads the pixel value at an address; 8, 16 or 24 bits a pixel.
+uint32_t readPixel(const uint8_t* at, int32_t bitsPerPixel);
+
+} // namespace quarlo::kernel
