@@ -37,9 +37,9 @@ enum {
  *
  * @param space any number
  * @param limit bytes that the space may hand out in all; 0 for no limit
- * @return 1; 0 when refused: a negative limit, or one below what is in use
+ * @return 1; 0 when the limit is below what is in use
  */
-QUARLO_API int32_t GMSetMemorySpace(int32_t space, int32_t limit);
+QUARLO_API int32_t GMSetMemorySpace(int32_t space, GWord limit);
 
 /**
  * Forwards to service 40: closes a space.
@@ -47,7 +47,7 @@ QUARLO_API int32_t GMSetMemorySpace(int32_t space, int32_t limit);
  * @param flags 0 or #G_SPACE_FORCE
  * @return 1; 0 when there is no such space, or when it has blocks in use and is not forced
  */
-QUARLO_API int32_t GMDeleteMemorySpace(int32_t space, uint32_t flags);
+QUARLO_API int32_t GMDeleteMemorySpace(int32_t space, GWord flags);
 
 /**
  * Forwards to service 41: allocates a block, aligned for any type.
@@ -96,7 +96,7 @@ QUARLO_API int32_t GMSetMemoryMode(int32_t mode);
  * @param flags 0
  * @return 1; 0 when there is no such space or its reset has begun already
  */
-QUARLO_API int32_t GMBeginResetMemorySpace(int32_t space, uint32_t flags);
+QUARLO_API int32_t GMBeginResetMemorySpace(int32_t space, GWord flags);
 
 /**
  * Forwards to service 81: completes a reset: frees every block that the space held when the reset
@@ -105,7 +105,7 @@ QUARLO_API int32_t GMBeginResetMemorySpace(int32_t space, uint32_t flags);
  * @param flags 0
  * @return 1; 0 when no reset of that space has begun
  */
-QUARLO_API int32_t GMEndResetMemorySpace(int32_t space, uint32_t flags);
+QUARLO_API int32_t GMEndResetMemorySpace(int32_t space, GWord flags);
 
 /**
  * Forwards to service 82: abandons a reset; every block stays.
@@ -113,7 +113,7 @@ QUARLO_API int32_t GMEndResetMemorySpace(int32_t space, uint32_t flags);
  * @param flags 0
  * @return 1; 0 when no reset of that space has begun
  */
-QUARLO_API int32_t GMCancelResetMemorySpace(int32_t space, uint32_t flags);
+QUARLO_API int32_t GMCancelResetMemorySpace(int32_t space, GWord flags);
 
 QUARLO_END
 

@@ -45,15 +45,15 @@ QUARLO_API GWord GDQuitPlatform(void);
 /** Stores the low 16 bits of a code in the process-wide error cell. */
 QUARLO_API void GDSetGlobalError(uint32_t code);
 
-/** The process-wide error cell: 0 at load, and never written by the library itself. */
-QUARLO_API uint16_t GDQueryGlobalError(void);
+/** The process-wide error cell, 0 to 65535: 0 at load, and never written by the library itself. */
+QUARLO_API uint32_t GDQueryGlobalError(void);
 
 /**
  * The error cell of a draw handle, never written by the library itself.
  *
  * @param handle the handle; null reads the process-wide cell
  */
-QUARLO_API uint16_t GDQueryError(const GDrawHandle* handle);
+QUARLO_API uint32_t GDQueryError(const GDrawHandle* handle);
 
 QUARLO_END
 

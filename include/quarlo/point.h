@@ -18,9 +18,9 @@ QUARLO_API void GPTGetPoint(const GPoint* point, int16_t* x, int16_t* y);
 /**
  * Copies a point; the source comes first.
  *
- * @param destination written byte by byte: it need not be aligned
+ * @param destination a GPoint, written byte by byte: it need not be aligned
  */
-QUARLO_API void GPTDuplicatePoint(const GPoint* source, GPoint* destination);
+QUARLO_API void GPTDuplicatePoint(const GPoint* source, void* destination);
 
 /** Moves a point. */
 QUARLO_API void GPTOffsetPoint(GPoint* point, int16_t dx, int16_t dy);
