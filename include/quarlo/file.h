@@ -6,9 +6,9 @@
  * lacks it. Success is 1 or what a function says; a failure is one of the negative numbers below,
  * or null.
  *
- * Paths are relative to the platform's file root, whether they begin with a drive letter, with '\'
- * or '/' or with neither; both strokes separate folders. A path that leads out of the root, by ".."
- * or by a symbolic link, is denied.
+ * Paths are relative to the platform's file root, whether they begin with a drive letter, a slash, a
+ * back slash or none of these; slash and back slash both separate folders. A path that leads out of
+ * the root, by ".." or by a symbolic link, is denied.
  */
 #ifndef QUARLO_FILE_H
 #define QUARLO_FILE_H
@@ -196,13 +196,14 @@ QUARLO_API int32_t GIOGetFileSize(const char16_t* path, int32_t* size);
 QUARLO_API int32_t GIOGetDirectory(const char16_t* path, GDirectoryEntry* entries, int32_t count);
 
 /**
- * Forwards to service 63: puts a path together, adding ':', '\' and '.' where they are missing.
+ * Forwards to service 63: puts a path together, adding colon, back slash and dot where they are
+ * missing.
  *
  * @param path room for #G_PATH_SIZE units
  * @param drive letter, or null
  * @param directory folder, or null
  * @param name file name without extension, or null
- * @param extension with or without its '.', or null
+ * @param extension with or without its dot, or null
  * @return 1; #G_IO_TOO_LARGE, with an empty path, when it does not fit
  */
 QUARLO_API int32_t GIOMakePath(char16_t* path, const char16_t* drive, const char16_t* directory,
@@ -212,10 +213,10 @@ QUARLO_API int32_t GIOMakePath(char16_t* path, const char16_t* drive, const char
  * Forwards to service 64: takes a path apart. Any part may be null.
  *
  * @param path the path
- * @param drive letter and ':'; room for #G_DRIVE_SIZE units
- * @param directory folder with its last stroke; room for #G_DIRECTORY_SIZE units
+ * @param drive letter and colon; room for #G_DRIVE_SIZE units
+ * @param directory folder with its last slash; room for #G_DIRECTORY_SIZE units
  * @param name file name without extension; room for #G_NAME_SIZE units
- * @param extension with its '.'; room for #G_NAME_SIZE units
+ * @param extension with its dot; room for #G_NAME_SIZE units
  * @return 1; #G_IO_TOO_LARGE, with empty parts, when one does not fit
  */
 QUARLO_API int32_t GIOSplitPath(const char16_t* path, char16_t* drive, char16_t* directory,
