@@ -3,8 +3,10 @@
 
 namespace quarlo::kernel {
 
-/// `kReads` is false where the old value does not matter, so that it need not be loaded.
+/// `kNumber` is the mode's number in the interface. `kReads` is false where the old value does not
+/// matter, so that it need not be loaded.
 struct Copy {
+    static constexpr int kNumber = 0;
     static constexpr bool kReads = false;
     template <typename Word>
     static constexpr Word combine(Word, Word color) {
@@ -13,6 +15,7 @@ struct Copy {
 };
 
 struct And {
+    static constexpr int kNumber = 1;
     static constexpr bool kReads = true;
     template <typename Word>
     static constexpr Word combine(Word old, Word color) {
@@ -21,6 +24,7 @@ struct And {
 };
 
 struct Or {
+    static constexpr int kNumber = 2;
     static constexpr bool kReads = true;
     template <typename Word>
     static constexpr Word combine(Word old, Word color) {
@@ -29,6 +33,7 @@ struct Or {
 };
 
 struct Xor {
+    static constexpr int kNumber = 3;
     static constexpr bool kReads = true;
     template <typename Word>
     static constexpr Word combine(Word old, Word color) {

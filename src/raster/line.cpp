@@ -1,0 +1,56 @@
+#include "raster/line.h"
+
+#include "geometry/view.h"
+#include "raster/clip_line.h"
+
+#include <quarlo/draw.h>
+
+namespace quarlo {
+namespace {
+
+bool isWide(const GDrawHandle& handle) {
+    return handle.penWidth > 1 || handle.penHeight > 1;
+}
+
+} // namespace
+
+int32_t GDRasterLine(const Canvas& canvas, const GLine& line) {
+    const GDrawHandle& handle = canvas.handle;
+    if (handle.penDash != 0) {
+        return drawDashedLine(canvas, line) ? 1 : 0;
+    }
+    GLine clipped = line;
+    if (!isValid(canvas.area) || !GDClipLine(clipped, canvas.area)) {
+        return 0;
+    }
+    if (!isWide(handle)) {
+        drawThinLine(canvas, clipped);
+    }
+    return 1;
+}
+
+} // namespace quarlo
+
+using quarlo::Canvas;
+
+void GDMoveTo(GDrawHandle* handle, int16_t x, int16_t y) {
+    handle->penPos = {x, y};
+}
+
+void GDLineTo(GDrawHandle* handle, int16_t x, int16_t y) {
+    if (handle->penPixel == G_NO_COLOR) {
+        return;
+    }
+    GLine line{handle->penPos.x, handle->penPos.y, x, y};
+    GDDrawLine(handle, &line);
+    handle->dashPhase = 0;
+    handle->penPos = {x, y};
+}
+
+int32_t GDDrawLine(GDrawHandle* handle, GLine* line) {
+    quarlo::mapToScreen(*handle, *line);
+    if (handle->penPixel == G_NO_COLOR) {
+        return 0;
+    }
+    return quarlo::GDRasterLine(Canvas(*handle), *line);
+}
