@@ -18,10 +18,10 @@ uint8_t* fill(uint8_t* at, ptrdiff_t stride, int32_t width, int32_t height, uint
         height = 1;
     }
     for (; height > 1; --height) {
-        fillRow<Mode>(at, length, tile);
+        fillRow<Mode>(at, length, tile.bytes);
         at += stride;
     }
-    fillRow<Mode>(at, length, tile);
+    fillRow<Mode>(at, length, tile.bytes);
     return at + length;
 }
 
@@ -36,7 +36,7 @@ uint8_t* fillPattern(uint8_t* at, ptrdiff_t stride, int32_t width, int32_t heigh
     }
     const auto length = static_cast<size_t>(width) * Format::kBytes;
     for (int32_t row = 0; row < height; ++row) {
-        fillRow<Mode>(at + row * stride, length, tiles[row & 7]);
+        fillRow<Mode>(at + row * stride, length, tiles[row & 7].bytes);
     }
     return at + (height - 1) * stride + length;
 }

@@ -2,14 +2,21 @@
 
 #include "raster/kernel/fill.h"
 #include "raster/kernel/line.h"
+#include "raster/kernel/spans.h"
 
 namespace quarlo::kernel {
 namespace {
 
 template <typename Format, typename Mode>
 constexpr Kernels kKernels = {
-    Format::kBytes,     fill<Format, Mode>,       fillPattern<Format, Mode>,
-    line<Format, Mode>, dashedLine<Format, Mode>, putPixel<Format, Mode>,
+    Format::kBytes,
+    fill<Format, Mode>,
+    fillPattern<Format, Mode>,
+    fillSpans<Format, Mode>,
+    fillPatternSpans<Format, Mode>,
+    line<Format, Mode>,
+    dashedLine<Format, Mode>,
+    putPixel<Format, Mode>,
 };
 
 template <typename Format>

@@ -28,6 +28,13 @@ struct DashSteps {
     uint32_t step;    ///< 16.16 fixed point, added before each pixel
 };
 
+/// A run of pixels on one row, both ends included.
+struct Span {
+    int16_t left;
+    int16_t right;
+    int16_t y;
+};
+
 /// All kernels of one format and mode. Counts are at least 1.
 struct Kernels {
     int32_t bytesPerPixel;
@@ -40,6 +47,13 @@ struct Kernels {
     uint8_t* (*fillPattern)(uint8_t* at, ptrdiff_t stride, int32_t width, int32_t height,
                             uint32_t fore, uint32_t back, const uint8_t rows[8], int32_t x,
                             int32_t y);
+
+    /// Runs in one colour, or in one 8 x 8 pattern anchored to the first pixel of the memory.
+    uint8_t* (*fillSpans)(uint8_t* pixels, ptrdiff_t stride, const Span* spans, int32_t count,
+                          uint32_t pixel);
+    uint8_t* (*fillPatternSpans)(uint8_t* pixels, ptrdiff_t stride, const Span* spans,
+                                 int32_t count, uint32_t fore, uint32_t back,
+                                 const uint8_t rows[8]);
 
     uint8_t* (*line)(uint8_t* at, const LineSteps& steps, uint32_t pixel);
 

@@ -129,8 +129,7 @@ inline void combineShort(uint8_t* at, size_t count, const uint8_t* from) {
 
 /// The rest of a row behind its last whole period; `count` is below the period.
 template <typename Mode>
-inline void fillTail(uint8_t* at, size_t count, const Tile& tile) {
-    const uint8_t* from = tile.bytes;
+inline void fillTail(uint8_t* at, size_t count, const uint8_t* from) {
     while (count >= 16) {
         combineWord<Mode, Block>(at, from);
         at += 16;
@@ -144,12 +143,12 @@ inline void fillTail(uint8_t* at, size_t count, const Tile& tile) {
     }
 }
 
-/// Combines `count` bytes with the tile, from its first byte on.
+/// Combines `count` bytes with the period of a tile that starts at `tile`.
 template <typename Mode>
-inline void fillRow(uint8_t* at, size_t count, const Tile& tile) {
-    const Block first = loadBlock(tile.bytes);
-    const Block second = loadBlock(tile.bytes + 16);
-    const Block third = loadBlock(tile.bytes + 32);
+inline void fillRow(uint8_t* at, size_t count, const uint8_t* tile) {
+    const Block first = loadBlock(tile);
+    const Block second = loadBlock(tile + 16);
+    const Block third = loadBlock(tile + 32);
     while (count >= Tile::kPeriod) {
         storeBlock(at, Mode::combine(loadBlock(at), first));
         storeBlock(at + 16, Mode::combine(loadBlock(at + 16), second));
