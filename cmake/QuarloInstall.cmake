@@ -3,7 +3,8 @@
 include(CMakePackageConfigHelpers)
 
 install(DIRECTORY include/quarlo TYPE INCLUDE)
-install(FILES include/gpi/gpi.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/gpi)
+install(FILES include/gpi/gpi.h include/gpi/forwards.h include/gpi/services.h
+        DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/gpi)
 
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/quarlo)
 configure_package_config_file(cmake/quarloConfig.cmake.in quarloConfig.cmake

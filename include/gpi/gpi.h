@@ -1,21 +1,17 @@
 /**
  * @file gpi.h
- * The platform's side of the library: the entry points that a platform library defines, the number
- * of every service, and each service's signature and contract.
+ * The platform's side of the library: the entry points that a platform library defines and the
+ * number of every service. services.h and forwards.h, included at the end, have each service's
+ * signature and contract.
  *
- * A platform library defines the three entry points below and answers GPIGetService() with the
- * functions it has. The library gets along without most services: where the contract of one says
- * "required", the function above it draws or does nothing without it, or the program cannot start;
- * without any other service the functions that use it return 0, unless its contract says more.
- *
- * A service never keeps a pointer that it is handed, except where its contract says so. Drawing
- * services are called from the thread that draws; the event services from any.
+ * The library gets along without most services: the functions that use a missing one return 0 and
+ * do nothing else, unless its contract says more. Event services are called from any thread, all
+ * others from the thread that calls the library.
  */
 #ifndef GPI_GPI_H
 #define GPI_GPI_H
 
-#include <quarlo/pixel_ops.h>
-#include <quarlo/surface.h>
+#include <quarlo/event.h>
 #include <quarlo/types.h>
 
 #if defined(_WIN32) && defined(GPI_BUILDING)
@@ -42,8 +38,16 @@ GPI_API GPIFunction GPIGetService(int32_t number);
 /** Number of fonts that the platform offers. */
 GPI_API int32_t GPIGetFontCount(void);
 
-/** Shuts the platform's side of the event queue down: wakes whoever waits in service 33. */
+/** Shuts the platform's side of the event queue down, waking whoever waits in service 33. */
 GPI_API void GPIShutdownEvents(void);
+
+#ifndef _WIN32
+/** What the system itself does with a message on Windows: readies one for dispatching. */
+GPI_API void GPITranslateMessage(GMessage* message);
+
+/** Hands a message to the window that it is for. */
+GPI_API void GPIDispatchMessage(GMessage* message);
+#endif
 
 /** The number of every service. */
 enum {
@@ -218,5 +222,8 @@ enum {
 };
 
 QUARLO_END
+
+#include <gpi/forwards.h>
+#include <gpi/services.h>
 
 #endif

@@ -6,9 +6,9 @@
  * lacks it. Success is 1 or what a function says; a failure is one of the negative numbers below,
  * or null.
  *
- * Paths are relative to the platform's file root, whether they begin with a drive letter, a slash, a
- * back slash or none of these; slash and back slash both separate folders. A path that leads out of
- * the root, by ".." or by a symbolic link, is denied.
+ * Paths are relative to the platform's file root, whether they begin with a drive letter, a slash,
+ * a back slash or none of these; slash and back slash both separate folders. A path that leads out
+ * of the root, by ".." or by a symbolic link, is denied.
  */
 #ifndef QUARLO_FILE_H
 #define QUARLO_FILE_H

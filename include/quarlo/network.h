@@ -214,8 +214,8 @@ QUARLO_API int32_t GNetCloseHandle(GNetHandle* handle);
  * @return a connection
  */
 QUARLO_API GNetHandle* GNetConnect(GNetHandle* session, const char16_t* server, int32_t port,
-                                   const char16_t* user, const char16_t* password,
-                                   int32_t protocol, uint32_t flags);
+                                   const char16_t* user, const char16_t* password, int32_t protocol,
+                                   uint32_t flags);
 
 /**
  * Forwards to service 90: asks for a URL; its contents are then read.
@@ -347,8 +347,8 @@ QUARLO_API int32_t GNetHttpEndRequest(GNetHandle* request, uint32_t flags);
  * @param index which of several headers of that name, from 0, and then the next; may be null for
  *     the first
  */
-QUARLO_API int32_t GNetHttpQueryInfo(GNetHandle* request, int32_t info, void* buffer,
-                                     int32_t* size, int32_t* index);
+QUARLO_API int32_t GNetHttpQueryInfo(GNetHandle* request, int32_t info, void* buffer, int32_t* size,
+                                     int32_t* index);
 
 /**
  * Forwards to service 105: lists a folder.
