@@ -37,7 +37,7 @@ enum {
 /**
  * Draws one pixel in the pen colour and moves the pen to it. A pen colour of -1 does neither.
  *
- * @return the result of the pixel operation; -1 when nothing is drawn
+ * @return the result of the pixel operation; 0 outside the clip rectangle; -1 without a pen colour
  */
 QUARLO_API int32_t GDSetPixel(GDrawHandle* handle, int16_t x, int16_t y);
 
@@ -83,8 +83,7 @@ QUARLO_API void GDDrawRect(GDrawHandle* handle, const GRect* rect);
  * @param rect the outer rectangle; null does nothing
  * @param inner receives the rectangle left inside the border; may be null
  * @param border the border; one that is not enabled leaves `rect` as it is
- * @param style #G_BORDER_RAISED or #G_BORDER_SUNKEN; any other uses the handle's fill style for the
- *     first two sides
+ * @param style #G_BORDER_RAISED or #G_BORDER_SUNKEN; any other keeps the handle's fill style
  */
 QUARLO_API void GDDrawRectBorder(GDrawHandle* handle, const GRect* rect, GRect* inner,
                                  const GBorderStyle* border, uint16_t style);

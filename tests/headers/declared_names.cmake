@@ -1,0 +1,31 @@
+# Compares the functions that the umbrella header declares for export with the list of exports.
+# COMPILER: a C compiler; INCLUDE: the headers' folder; EXPORTS: the list.
+
+execute_process(COMMAND ${COMPILER} -std=c11 -E -P -I${INCLUDE} ${INCLUDE}/quarlo/quarlo.h
+                OUTPUT_VARIABLE text COMMAND_ERROR_IS_FATAL ANY)
+string(REPLACE ";" "\n" text "${text}")
+string(REGEX MATCHALL "visibility\\(\"default\"\\)\\)\\)[^\n(]*[ *\n][A-Za-z0-9_]+\\(" declarations
+       "${text}")
+set(declared)
+foreach(declaration IN LISTS declarations)
+    string(REGEX REPLACE ".*[ *\n]([A-Za-z0-9_]+)\\($" "\\1" name "${declaration}")
+    list(APPEND declared ${name})
+endforeach()
+
+file(STRINGS ${EXPORTS} exports)
+set(undeclared ${exports})
+list(REMOVE_ITEM undeclared ${declared})
+set(unlisted ${declared})
+list(REMOVE_ITEM unlisted ${exports})
+list(LENGTH declared declared_count)
+list(LENGTH exports export_count)
+
+if(undeclared)
+    message(SEND_ERROR "exported, but not declared: ${undeclared}")
+endif()
+if(unlisted)
+    message(SEND_ERROR "declared, but not exported: ${unlisted}")
+endif()
+if(NOT declared_count EQUAL export_count)
+    message(SEND_ERROR "${declared_count} declarations for ${export_count} exports")
+endif()
