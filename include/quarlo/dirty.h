@@ -18,7 +18,7 @@ enum { G_DIRTY_RECT_COUNT = 5 };
 
 /** A list of areas. The last entry of each array is used during an add only. */
 typedef struct GDirtyRectList {
-    GRect rects[G_DIRTY_RECT_COUNT + 1];
+    GRect rects[G_DIRTY_RECT_COUNT + 1];       /**< the areas */
     int32_t areas[G_DIRTY_RECT_COUNT + 1];     /**< pixels in each rectangle */
     int32_t count;                             /**< entries in use, 0 to 5 */
     int32_t drawForce[G_DIRTY_RECT_COUNT + 1]; /**< non-zero: to be redrawn whatever changed */

@@ -47,14 +47,18 @@ enum {
 };
 
 /** Where an offset counts from. */
-enum { G_SEEK_START = 0, G_SEEK_CURRENT = 1, G_SEEK_END = 2 };
+enum {
+    G_SEEK_START = 0,   /**< the begin of the file */
+    G_SEEK_CURRENT = 1, /**< the position now */
+    G_SEEK_END = 2      /**< the end of the file */
+};
 
 /** What a file is, and what a program may do with it; bits. */
 enum {
-    G_FILE_READABLE = 1,
-    G_FILE_WRITABLE = 2,
-    G_FILE_EXECUTABLE = 4,
-    G_FILE_DIRECTORY = 8 /**< a folder */
+    G_FILE_READABLE = 1,   /**< it can be read */
+    G_FILE_WRITABLE = 2,   /**< it can be written */
+    G_FILE_EXECUTABLE = 4, /**< it can be run */
+    G_FILE_DIRECTORY = 8   /**< it is a folder */
 };
 
 /** How GIORename() and GIORemove() proceed; bits. */

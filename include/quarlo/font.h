@@ -41,7 +41,7 @@ typedef struct GFontAttribute {
 } GFontAttribute;
 
 /** Bits of GSimpleFont::flags. */
-enum { G_SIMPLE_FONT_BOLD = 1 };
+enum { G_SIMPLE_FONT_BOLD = 1 /**< emboldened */ };
 
 /** Face and properties in one record, for GDSetSimpleFont(). It need not be aligned. */
 typedef struct GSimpleFont {

@@ -52,7 +52,11 @@ enum {
 };
 
 /** Protocols, for GNetConnect() and GNetUrl. */
-enum { G_NET_HTTP = 1, G_NET_HTTPS = 2, G_NET_FTP = 3 };
+enum {
+    G_NET_HTTP = 1,  /**< HTTP */
+    G_NET_HTTPS = 2, /**< HTTP over TLS */
+    G_NET_FTP = 3    /**< FTP */
+};
 
 /** Usual ports; 0 stands for the protocol's own. */
 enum { G_NET_PORT_DEFAULT = 0, G_NET_PORT_FTP = 21, G_NET_PORT_HTTP = 80, G_NET_PORT_HTTPS = 443 };

@@ -14,10 +14,18 @@
 QUARLO_BEGIN
 
 /** Horizontal alignment of a caption. */
-enum { G_ALIGN_LEFT = 0, G_ALIGN_CENTRE = 1, G_ALIGN_RIGHT = 2 };
+enum {
+    G_ALIGN_LEFT = 0,   /**< lines begin at the left edge */
+    G_ALIGN_CENTRE = 1, /**< lines stand in the middle */
+    G_ALIGN_RIGHT = 2   /**< lines end at the right edge */
+};
 
 /** Vertical alignment of a caption. */
-enum { G_ALIGN_TOP = 0, G_ALIGN_MIDDLE = 1, G_ALIGN_BOTTOM = 2 };
+enum {
+    G_ALIGN_TOP = 0,    /**< the first line stands at the upper edge */
+    G_ALIGN_MIDDLE = 1, /**< the lines stand in the middle */
+    G_ALIGN_BOTTOM = 2  /**< the last line stands at the lower edge */
+};
 
 /** How a caption looks and lies in its rectangle. Margins are application coordinates. */
 typedef struct GCaptionAttr {
@@ -31,11 +39,14 @@ typedef struct GCaptionAttr {
 } GCaptionAttr;
 
 /** Cursor styles; any other style is a bar. */
-enum { G_CURSOR_BAR = 0, G_CURSOR_BLOCK = 1 };
+enum {
+    G_CURSOR_BAR = 0,  /**< 2 pixels wide, before a glyph */
+    G_CURSOR_BLOCK = 1 /**< a glyph, inverted */
+};
 
 /** The cursor of a caption. */
 typedef struct GCaptionCursor {
-    uint8_t style;  /**< #G_CURSOR_BAR, 2 pixels wide, or #G_CURSOR_BLOCK, inverting a glyph */
+    uint8_t style;  /**< #G_CURSOR_BAR or #G_CURSOR_BLOCK */
     uint32_t color; /**< given like a fore colour */
 } GCaptionCursor;
 

@@ -20,8 +20,8 @@ enum { G_TIMER_COUNT = 50 };
  * the platform's start, unless GESetSystemTime() sets it, and wraps around at 2^63.
  */
 typedef struct GSystemTime {
-    uint32_t low;
-    int32_t high;
+    uint32_t low; /**< low 32 bits */
+    int32_t high; /**< high 32 bits */
 } GSystemTime;
 
 /** A date and time of day, UTC. */
