@@ -2,17 +2,11 @@
 
 #include "geometry/view.h"
 #include "raster/clip_line.h"
+#include "raster/wide_line.h"
 
 #include <quarlo/draw.h>
 
 namespace quarlo {
-namespace {
-
-bool isWide(const GDrawHandle& handle) {
-    return handle.penWidth > 1 || handle.penHeight > 1;
-}
-
-} // namespace
 
 int32_t GDRasterLine(const Canvas& canvas, const GLine& line) {
     const GDrawHandle& handle = canvas.handle;
@@ -23,7 +17,9 @@ int32_t GDRasterLine(const Canvas& canvas, const GLine& line) {
     if (!isValid(canvas.area) || !GDClipLine(clipped, canvas.area)) {
         return 0;
     }
-    if (!isWide(handle)) {
+    if (isWide(handle)) {
+        drawWideLine(canvas, line);
+    } else {
         drawThinLine(canvas, clipped);
     }
     return 1;

@@ -4,6 +4,7 @@
 #include "raster/fill_notice.h"
 #include "raster/gradation.h"
 #include "raster/line.h"
+#include "raster/wide_line.h"
 
 #include <quarlo/draw.h>
 
@@ -50,6 +51,9 @@ void frame(const Canvas& canvas, const GRect& rect) {
                            {rect.left, rect.bottom, rect.left, rect.top}};
     for (const GLine& edge : edges) {
         GDRasterLine(canvas, edge);
+    }
+    if (contains(canvas.area, rect.left, rect.top)) {
+        closeFrame(canvas, edges[0]);
     }
     handle.dashPhase = 0;
 }
