@@ -1,0 +1,26 @@
+#include "clock/clock.h"
+
+#include <chrono>
+
+namespace gpi {
+namespace {
+
+constexpr uint64_t kCountMask = UINT64_MAX >> 1;
+
+uint64_t monotonicMilliseconds() {
+    using namespace std::chrono;
+    return static_cast<uint64_t>(
+        duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count());
+}
+
+} // namespace
+
+int64_t TickClock::now() const {
+    return static_cast<int64_t>((monotonicMilliseconds() + offset_.load()) & kCountMask);
+}
+
+void TickClock::set(int64_t ticks) {
+    offset_ = static_cast<uint64_t>(ticks) - monotonicMilliseconds();
+}
+
+} // namespace gpi

@@ -1,0 +1,112 @@
+#include "config/settings.h"
+
+#include "report.h"
+
+#include <algorithm>
+#include <charconv>
+#include <initializer_list>
+#include <limits>
+#include <set>
+#include <string_view>
+
+namespace gpi {
+namespace {
+
+/// Reads settings one by one and remembers which names mean something.
+class Reader {
+  public:
+    explicit Reader(const SettingSource& source) : source_(source) {}
+
+    void text(const char* name, std::string& value) {
+        if (auto given = find(name)) {
+            value = std::move(*given);
+        }
+    }
+
+    void number(const char* name, int32_t least, int32_t most, int32_t& value) {
+        const auto given = find(name);
+        if (!given) {
+            return;
+        }
+        int32_t parsed = 0;
+        const char* const end = given->data() + given->size();
+        const auto [stop, error] = std::from_chars(given->data(), end, parsed);
+        if (error != std::errc() || stop != end || parsed < least || parsed > most) {
+            refuse(name, *given,
+                   "a number from " + std::to_string(least) + " to " + std::to_string(most));
+            return;
+        }
+        value = parsed;
+    }
+
+    template <typename Value>
+    struct Choice {
+        std::string_view name;
+        Value value;
+    };
+
+    template <typename Value>
+    void choice(const char* name, std::initializer_list<Choice<Value>> choices, Value& value) {
+        const auto given = find(name);
+        if (!given) {
+            return;
+        }
+        std::string expected = "one of";
+        for (const auto& choice : choices) {
+            if (choice.name == *given) {
+                value = choice.value;
+                return;
+            }
+            expected.append(" ").append(choice.name);
+        }
+        refuse(name, *given, expected);
+    }
+
+    void reportUnknownNames() const {
+        for (const auto& name : source_.namesInFile()) {
+            if (!known_.contains(name)) {
+                report("the configuration file sets " + name + ", which means nothing");
+            }
+        }
+    }
+
+  private:
+    std::optional<std::string> find(const char* name) {
+        known_.insert(name);
+        return source_.find(name);
+    }
+
+    static void refuse(const char* name, const std::string& given, const std::string& expected) {
+        report(std::string(name) + " is \"" + given + "\" instead of " + expected +
+               "; the default is taken");
+    }
+
+    const SettingSource& source_;
+    std::set<std::string> known_;
+};
+
+} // namespace
+
+Settings readSettings(const SettingSource& source) {
+    Settings settings;
+    Reader reader(source);
+    reader.choice<DisplayKind>(
+        "QUARLO_DISPLAY",
+        {{"sdl", DisplayKind::Sdl}, {"memory", DisplayKind::Memory}, {"png", DisplayKind::Png}},
+        settings.display);
+    reader.number("QUARLO_WIDTH", 1, 2560, settings.width);
+    reader.number("QUARLO_HEIGHT", 1, 2560, settings.height);
+    reader.choice<PixelFormat>(
+        "QUARLO_FORMAT",
+        {{"8", kFormat8}, {"555", kFormat555}, {"565", kFormat565}, {"24", kFormat24}},
+        settings.format);
+    reader.number("QUARLO_SCALE", 1, 8, settings.scale);
+    reader.text("QUARLO_TITLE", settings.title);
+    reader.text("QUARLO_PNG", settings.png);
+    reader.number("QUARLO_MEMORY_LIMIT", 0, std::numeric_limits<int32_t>::max(),
+                  settings.memoryLimit);
+    reader.reportUnknownNames();
+    return settings;
+}
+
+} // namespace gpi

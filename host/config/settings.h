@@ -1,0 +1,36 @@
+// Everything about the platform that its user can choose.
+#pragma once
+
+#include "config/source.h"
+#include "display/pixel_format.h"
+
+#include <cstdint>
+#include <string>
+
+namespace gpi {
+
+/// Where the display is shown.
+enum class DisplayKind {
+    Automatic, ///< a window where a display server answers, else a picture file
+    Sdl,       ///< a window
+    Memory,    ///< nowhere
+    Png        ///< a picture file, written at the end
+};
+
+/// The settings with their defaults. The comment behind each names its variable.
+struct Settings {
+    DisplayKind display = DisplayKind::Automatic; ///< QUARLO_DISPLAY: sdl, memory, png
+    int width = 800;                              ///< QUARLO_WIDTH: pixels, 1 to 2560
+    int height = 600;                             ///< QUARLO_HEIGHT: pixels, 1 to 2560
+    PixelFormat format = kFormat555;              ///< QUARLO_FORMAT: 8, 555, 565, 24
+    int scale = 1;                                ///< QUARLO_SCALE: of a new window, 1 to 8
+    std::string title = "quarlo";                 ///< QUARLO_TITLE: of the window
+    std::string png = "quarlo.png";               ///< QUARLO_PNG: path of the picture file
+    int32_t memoryLimit = 0; ///< QUARLO_MEMORY_LIMIT: bytes of a memory space, 0 for no limit
+};
+
+/// Reads the settings. A value that makes no sense is named in one line, and the default holds; so
+/// is a name in the file that means nothing.
+Settings readSettings(const SettingSource& source);
+
+} // namespace gpi
