@@ -1,0 +1,26 @@
+#include "display/back_end.h"
+
+#include "display/headless_back_end.h"
+#include "display/sdl_back_end.h"
+#include "report.h"
+
+namespace gpi {
+
+std::unique_ptr<BackEnd> openBackEnd(const Settings& settings, const Frame& frame) {
+    switch (settings.display) {
+    case DisplayKind::Sdl:
+        return openSdlBackEnd(settings, frame, VideoDriver::Any);
+    case DisplayKind::Memory:
+        return std::make_unique<MemoryBackEnd>();
+    case DisplayKind::Png:
+        return std::make_unique<PngBackEnd>(settings.png);
+    case DisplayKind::Automatic:
+        break;
+    }
+    if (auto window = openSdlBackEnd(settings, frame, VideoDriver::DisplayServer)) {
+        return window;
+    }
+    return std::make_unique<PngBackEnd>(settings.png);
+}
+
+} // namespace gpi

@@ -1,0 +1,44 @@
+// The functions that the shared library exports by name.
+#include "guard.h"
+#include "platform.h"
+#include "service_list.h"
+
+#include <gpi/host.h>
+
+GPIFunction GPIGetService(int32_t number) {
+    return gpi::serviceOf(number);
+}
+
+int32_t GPIGetFontCount(void) {
+    return 0;
+}
+
+void GPIShutdownEvents(void) {
+    // Nobody waits: this platform has no event signal.
+}
+
+void GPITranslateMessage(GMessage* /*message*/) {
+    // Messages come with nothing left to translate.
+}
+
+void GPIDispatchMessage(GMessage* message) {
+    gpi::guarded(0, [&] {
+        if (message != nullptr && message->number == G_MESSAGE_PAINT && gpi::screen() != nullptr) {
+            gpi::screen()->display.repaint();
+        }
+        return 0;
+    });
+}
+
+int32_t GPIHostWaitForClose(void) {
+    return gpi::guarded(0, [] {
+        return gpi::screen() != nullptr && gpi::screen()->display.waitForClose() ? 1 : 0;
+    });
+}
+
+int32_t GPIHostWritePng(const char* path) {
+    return gpi::guarded(0, [&] {
+        const bool possible = path != nullptr && gpi::screen() != nullptr;
+        return possible && gpi::writePng(gpi::screen()->display.frame(), path) ? 1 : 0;
+    });
+}

@@ -1,0 +1,41 @@
+#include "lifecycle.h"
+
+#include "guard.h"
+#include "platform.h"
+
+namespace gpi {
+
+GWord startPlatform(GWord configuration) {
+    return guarded<GWord>(0, [configuration] {
+        Platform& self = platform();
+        if (self.screen == nullptr) {
+            const auto* const file = reinterpret_cast<const char*>(configuration);
+            const auto source = file != nullptr ? SettingSource(file) : SettingSource::standard();
+            const Settings settings = readSettings(source);
+            self.heap.setDefaultLimit(static_cast<size_t>(settings.memoryLimit));
+            self.screen = std::make_unique<Screen>(settings);
+            self.ticks.set(0);
+        }
+        return GWord{1};
+    });
+}
+
+GWord openDisplay(GWord /*configuration*/) {
+    return guarded<GWord>(0, [] { return GWord{screen() != nullptr && screen()->display.open()}; });
+}
+
+GWord closeDisplay() {
+    return guarded<GWord>(0,
+                          [] { return GWord{screen() != nullptr && screen()->display.close()}; });
+}
+
+GWord stopPlatform() {
+    if (screen() == nullptr) {
+        return 0;
+    }
+    const GWord kept = closeDisplay();
+    platform().screen.reset();
+    return kept;
+}
+
+} // namespace gpi

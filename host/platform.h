@@ -1,0 +1,35 @@
+// All that the platform keeps for the process.
+#pragma once
+
+#include "clock/clock.h"
+#include "display/device_drawing.h"
+#include "display/display.h"
+#include "memory/heap.h"
+
+#include <memory>
+
+namespace gpi {
+
+/// The display of a started platform and the state of drawing on it.
+struct Screen {
+    explicit Screen(const Settings& settings) : display(settings), drawing(display) {}
+
+    Display display;
+    DeviceDrawing drawing;
+};
+
+struct Platform {
+    Heap heap;                      ///< works before the start and after the stop
+    TickClock ticks;                ///< likewise
+    std::unique_ptr<Screen> screen; ///< null unless started
+};
+
+/// The one platform. It outlives every other object of the process.
+Platform& platform();
+
+/// The screen, or null.
+inline Screen* screen() {
+    return platform().screen.get();
+}
+
+} // namespace gpi

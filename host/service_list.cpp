@@ -1,0 +1,76 @@
+#include "service_list.h"
+
+#include "clock/services.h"
+#include "display/services.h"
+#include "lifecycle.h"
+#include "memory/services.h"
+
+namespace gpi {
+namespace {
+
+struct Entry {
+    int32_t number;
+    GPIFunction function;
+};
+
+/// `Signature` is the documented one, which the function must have to the letter.
+template <typename Signature>
+Entry offer(int32_t number, Signature function) {
+    return {number, reinterpret_cast<GPIFunction>(function)};
+}
+
+const Entry kServices[] = {
+    offer<GPIStart>(GPI_SERVICE_START, startPlatform),
+    offer<GPIStop>(GPI_SERVICE_STOP, stopPlatform),
+    offer<GPIStartSecond>(GPI_SERVICE_START_SECOND, openDisplay),
+    offer<GPIStopFirst>(GPI_SERVICE_STOP_FIRST, closeDisplay),
+
+    offer<GPIGetSurface>(GPI_SERVICE_GET_SURFACE, getSurface),
+    offer<GPIReleaseSurface>(GPI_SERVICE_RELEASE_SURFACE, releaseSurface),
+    offer<GPISetPixel>(GPI_SERVICE_SET_PIXEL, setPixel),
+    offer<GPISpan>(GPI_SERVICE_SPAN, span),
+    offer<GPINextPixel>(GPI_SERVICE_NEXT_PIXEL, nextPixel),
+    offer<GPIBlockTransfer>(GPI_SERVICE_BLOCK_TRANSFER, blockTransfer),
+    offer<GPIFlush>(GPI_SERVICE_FLUSH, flush),
+    offer<GPISetPalette>(GPI_SERVICE_SET_PALETTE, setPalette),
+    offer<GPIGetPalette>(GPI_SERVICE_GET_PALETTE, getPalette),
+    offer<GPICoveragePixel>(GPI_SERVICE_COVERAGE_PIXEL, coveragePixel),
+    offer<GPISetZoomScale>(GPI_SERVICE_SET_ZOOM_SCALE, setZoomScale),
+    offer<GPISetScrollPos>(GPI_SERVICE_SET_SCROLL_POS, setScrollPos),
+    offer<GPIFlushForce>(GPI_SERVICE_FLUSH_FORCE, flushForce),
+    offer<GPISetDrawableRegion>(GPI_SERVICE_SET_DRAWABLE_REGION, setDrawableRegion),
+    offer<GPIRemoveDrawableRegion>(GPI_SERVICE_REMOVE_DRAWABLE_REGION, removeDrawableRegion),
+    offer<GPIDrawRect>(GPI_SERVICE_DRAW_RECT, fillRect),
+    offer<GPIFillRect>(GPI_SERVICE_FILL_RECT, fillRect),
+    offer<GPIFillPatternNotice>(GPI_SERVICE_FILL_PATTERN_NOTICE, fillPatternNotice),
+    offer<GPIPatternRect>(GPI_SERVICE_PATTERN_RECT, patternRect),
+    offer<GPIChangeVirtualSurface>(GPI_SERVICE_CHANGE_VIRTUAL_SURFACE, changeVirtualSurface),
+
+    offer<GPISetSystemTime>(GPI_SERVICE_SET_SYSTEM_TIME, setSystemTime),
+    offer<GPIGetSystemTime>(GPI_SERVICE_GET_SYSTEM_TIME, getSystemTime),
+    offer<GPITime>(GPI_SERVICE_TIME, timeOfDay),
+    offer<GPIBrokenDownTime>(GPI_SERVICE_BROKEN_DOWN_TIME, breakDownTime),
+
+    offer<GPISetMemorySpace>(GPI_SERVICE_SET_MEMORY_SPACE, setMemorySpace),
+    offer<GPIDeleteMemorySpace>(GPI_SERVICE_DELETE_MEMORY_SPACE, deleteMemorySpace),
+    offer<GPIMemoryAlloc>(GPI_SERVICE_MEMORY_ALLOC, memoryAlloc),
+    offer<GPIMemoryFree>(GPI_SERVICE_MEMORY_FREE, memoryFree),
+    offer<GPISetMemoryMode>(GPI_SERVICE_SET_MEMORY_MODE, setMemoryMode),
+    offer<GPIMemoryRealloc>(GPI_SERVICE_MEMORY_REALLOC, memoryRealloc),
+    offer<GPIBeginResetMemorySpace>(GPI_SERVICE_BEGIN_RESET_MEMORY_SPACE, beginResetMemorySpace),
+    offer<GPIEndResetMemorySpace>(GPI_SERVICE_END_RESET_MEMORY_SPACE, endResetMemorySpace),
+    offer<GPICancelResetMemorySpace>(GPI_SERVICE_CANCEL_RESET_MEMORY_SPACE, cancelResetMemorySpace),
+};
+
+} // namespace
+
+GPIFunction serviceOf(int32_t number) {
+    for (const Entry& entry : kServices) {
+        if (entry.number == number) {
+            return entry.function;
+        }
+    }
+    return nullptr;
+}
+
+} // namespace gpi
