@@ -15,6 +15,9 @@ install(FILES ${CMAKE_CURRENT_BINARY_DIR}/quarloConfig.cmake
         DESTINATION ${package_dir})
 install(EXPORT quarlo NAMESPACE quarlo:: FILE quarloTargets.cmake DESTINATION ${package_dir})
 
+# The prefix is told from where the file lies, so that an installed tree may be moved.
+file(RELATIVE_PATH pc_prefix /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
+string(REGEX REPLACE "/$" "" pc_prefix "${pc_prefix}")
 set(pc_files quarlo)
 if(QUARLO_BUILD_HOST)
     install(FILES include/gpi/host.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/gpi)

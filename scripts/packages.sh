@@ -1,0 +1,21 @@
+# Sourced by the other scripts: installs Debian packages that are not there yet.
+
+need_packages() {
+    missing=
+    for package in "$@"; do
+        dpkg-query -W -f '${Status}' "$package" 2>/dev/null | grep -q 'install ok installed' ||
+            missing="$missing $package"
+    done
+    [ -n "$missing" ] || return 0
+    echo "installing:$missing"
+    as_root=
+    [ "$(id -u)" = 0 ] || as_root=sudo
+    $as_root apt-get update -qq
+    # The names are words of their own.
+    # shellcheck disable=SC2086
+    $as_root env DEBIAN_FRONTEND=noninteractive \
+        apt-get install -y -qq --no-install-recommends $missing >/dev/null
+}
+
+# What building the library and the host platform takes.
+build_packages="g++ cmake ninja-build pkg-config libsdl2-dev libpng-dev libsimpleini-dev"

@@ -1,0 +1,38 @@
+#!/bin/sh
+# Installs a build tree into a fresh folder and builds the consumer programs against that, each way
+# that users have. Every program draws and reads back, so that a wrong library is noticed too.
+set -eu
+
+cmake=$1 build=$2 work=$3
+CC=$4 CXX=$5
+export CC CXX
+source=$(cd "$(dirname "$0")" && pwd)/consumer
+prefix=$work/prefix
+rm -rf "$prefix" "$work/consumer"
+mkdir -p "$work/consumer"
+
+"$cmake" --install "$build" --prefix "$prefix" >"$work/install.log"
+
+export QUARLO_DISPLAY=memory
+
+# By the CMake package.
+"$cmake" -S "$source" -B "$work/consumer/cmake" -G Ninja -DCMAKE_PREFIX_PATH="$prefix" \
+    >"$work/configure.log"
+"$cmake" --build "$work/consumer/cmake" >"$work/build.log"
+"$work/consumer/cmake/draw_c"
+"$work/consumer/cmake/draw_cpp"
+
+# By pkg-config.
+PKG_CONFIG_PATH=$(dirname "$(find "$prefix" -name quarlo.pc)")
+export PKG_CONFIG_PATH
+LD_LIBRARY_PATH=$(pkg-config --variable=libdir quarlo)
+export LD_LIBRARY_PATH
+flags=$(pkg-config --cflags --libs quarlo gpi)
+# The flags are words of their own.
+# shellcheck disable=SC2086
+{
+    "$CC" -std=c11 -Wall -Wextra -Werror "$source/draw.c" -o "$work/consumer/draw_c" $flags
+    "$CXX" -std=c++17 -Wall -Wextra -Werror "$source/draw.cpp" -o "$work/consumer/draw_cpp" $flags
+}
+"$work/consumer/draw_c"
+"$work/consumer/draw_cpp"
