@@ -31,7 +31,10 @@ class SdlBackEnd : public BackEnd {
     std::string open(VideoDriver driver) {
         std::promise<std::string> opened;
         auto answer = opened.get_future();
-        thread_ = std::thread([this, driver, &opened] { run(driver, opened); });
+        thread_ = std::thread([this, driver, &opened] {
+            run(driver, opened);
+            SDL_TLSCleanup(); // which SDL does itself only for threads that it started
+        });
         return answer.get();
     }
 
