@@ -1,7 +1,7 @@
 #include "display/frame.h"
 
 #include "display/area.h"
-#include "raster/kernel/kernels.h"
+#include "raster/kernel/format.h"
 
 #include <array>
 #include <cstring>
@@ -23,16 +23,38 @@ void copyInto(Frame& frame, const uint8_t* pixels, const GRect& area) {
     }
 }
 
+namespace {
+
+using ConvertRow = void (*)(const uint8_t* from, uint32_t* to, int count, const Palette& palette);
+
+/// The format is a constant in here, so that the loop becomes a few shifts on whole vectors.
+template <PixelFormat kFormat>
+void convertRow(const uint8_t* from, uint32_t* to, int count, const Palette& palette) {
+    using Layout = quarlo::kernel::Format<kFormat.bytes()>;
+    for (int index = 0; index < count; ++index) {
+        const uint32_t pixel = quarlo::kernel::loadPixel<Layout>(from + index * kFormat.bytes());
+        to[index] = kFormat.palette ? palette[pixel] : rgbOf(kFormat, pixel);
+    }
+}
+
+ConvertRow converterFor(const PixelFormat& format) {
+    if (format.palette) {
+        return convertRow<kFormat8>;
+    }
+    if (format.bits == 24) {
+        return convertRow<kFormat24>;
+    }
+    return format == kFormat565 ? convertRow<kFormat565> : convertRow<kFormat555>;
+}
+
+} // namespace
+
 void convertToRgb(const Frame& frame, const GRect& area, std::vector<uint32_t>& rgb) {
-    const int bytes = frame.format.bytes();
+    const ConvertRow convert = converterFor(frame.format);
     for (int y = area.top; y <= area.bottom; ++y) {
-        const uint8_t* from = frame.at(area.left, y);
-        uint32_t* to = &rgb[static_cast<size_t>(y) * static_cast<size_t>(frame.width) +
-                            static_cast<size_t>(area.left)];
-        for (int x = area.left; x <= area.right; ++x, from += bytes, ++to) {
-            const uint32_t pixel = quarlo::kernel::readPixel(from, frame.format.bits);
-            *to = frame.format.palette ? frame.palette[pixel] : rgbOf(frame.format, pixel);
-        }
+        uint32_t* const to = &rgb[static_cast<size_t>(y) * static_cast<size_t>(frame.width) +
+                                  static_cast<size_t>(area.left)];
+        convert(frame.at(area.left, y), to, widthOf(area), frame.palette);
     }
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <bit>
 #include <cstdint>
 
 namespace gpi {
@@ -40,8 +41,18 @@ constexpr Palette defaultPalette() {
     return palette;
 }
 
-/// The colour 0x00RRGGBB of a direct pixel value. A narrow channel's bits are repeated below it, so
-/// that full stays full.
-uint32_t rgbOf(const PixelFormat& format, uint32_t pixel);
+/// A channel of 4 to 8 bits as 8 bits: its upper bits are repeated below it, so that full stays
+/// full.
+constexpr uint32_t widenedChannel(uint32_t pixel, uint32_t mask) {
+    const int bits = std::popcount(mask);
+    const uint32_t value = (pixel & mask) >> std::countr_zero(mask);
+    return (value << (8 - bits) | value >> (2 * bits - 8)) & 0xFF;
+}
+
+/// The colour 0x00RRGGBB of a direct pixel value.
+constexpr uint32_t rgbOf(const PixelFormat& format, uint32_t pixel) {
+    return widenedChannel(pixel, format.red) << 16 | widenedChannel(pixel, format.green) << 8 |
+           widenedChannel(pixel, format.blue);
+}
 
 } // namespace gpi
