@@ -44,9 +44,15 @@ std::vector<uint8_t> rowBytes(const Frame& frame) {
     return bytes;
 }
 
+[[noreturn]] void fail(png_structp png, png_const_charp /*message*/) {
+    png_longjmp(png, 1);
+}
+
+void ignore(png_structp /*png*/, png_const_charp /*message*/) {}
+
 /// libpng leaves by a long jump when it fails, so nothing with a destructor lives here.
 bool encode(std::FILE* file, const Frame& frame, uint8_t* const* rows) {
-    png_structp png = png_create_write_struct(PNG_LIBPNG_VER_STRING, nullptr, nullptr, nullptr);
+    png_structp png = png_create_write_struct(PNG_LIBPNG_VER_STRING, nullptr, fail, ignore);
     png_infop info = png != nullptr ? png_create_info_struct(png) : nullptr;
     if (info == nullptr || setjmp(png_jmpbuf(png)) != 0) {
         png_destroy_write_struct(&png, &info);

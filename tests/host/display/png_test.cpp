@@ -6,9 +6,13 @@
 #include <gpi/host.h>
 
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 
+#include <csignal>
+#include <cstdlib>
 #include <cstring>
 #include <filesystem>
+#include <fstream>
 
 namespace {
 
@@ -102,6 +106,34 @@ TEST(PngFile, ThatCannotBeWrittenIsReportedInOneLine) {
     EXPECT_EQ(
         testing::internal::GetCapturedStderr(),
         "gpi: cannot write the picture /nonexistent/display.png: No such file or directory\n");
+}
+
+TEST(PngFile, ThatDoesNotFitLeavesTheOldOneAsItWas) {
+    const TemporaryFolder folder;
+    const std::string path = folder.path("shown.png");
+    folder.write("shown.png", "the old one");
+    // A small file overflows when it is closed, a large one on the way.
+    const auto overflow = [&](bool noisy) {
+        const StartedPlatform platform;
+        GVram* const surface = platform.surface();
+        Random random(testSeed());
+        for (int at = 0; noisy && at < surface->height * surface->bytesPerLine; ++at) {
+            surface->pixels[at] = static_cast<uint8_t>(random.bits());
+        }
+        platform.flushAll();
+        const rlimit tooShort{600, 600};
+        setrlimit(RLIMIT_FSIZE, &tooShort);
+        std::signal(SIGXFSZ, SIG_IGN);
+        std::exit(GPIHostWritePng(path.c_str()));
+    };
+    const char* const said = "^gpi: cannot write the picture .*shown.png: File too large\n$";
+    EXPECT_EXIT(overflow(false), testing::ExitedWithCode(0), said);
+    EXPECT_EXIT(overflow(true), testing::ExitedWithCode(0), said);
+    std::ifstream file(path);
+    std::string text;
+    std::getline(file, text);
+    EXPECT_EQ(text, "the old one");
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.path()), {}), 1);
 }
 
 TEST(PngFile, NeedsAPlatformAndAName) {
