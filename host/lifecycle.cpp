@@ -9,6 +9,7 @@ GWord startPlatform(GWord configuration) {
     return guarded<GWord>(0, [configuration] {
         Platform& self = platform();
         if (self.screen == nullptr) {
+            // NOLINTNEXTLINE(performance-no-int-to-ptr): a word that carries a pointer by contract
             const auto* const file = reinterpret_cast<const char*>(configuration);
             const auto source = file != nullptr ? SettingSource(file) : SettingSource::standard();
             const Settings settings = readSettings(source);

@@ -15,7 +15,7 @@ struct Entry {
 
 /// `Signature` is the documented one, which the function must have to the letter.
 template <typename Signature>
-Entry offer(int32_t number, Signature function) {
+Entry offer(int32_t number, Signature function) noexcept {
     return {number, reinterpret_cast<GPIFunction>(function)};
 }
 

@@ -31,8 +31,8 @@ using ConvertRow = void (*)(const uint8_t* from, uint32_t* to, int count, const 
 template <PixelFormat kFormat>
 void convertRow(const uint8_t* from, uint32_t* to, int count, const Palette& palette) {
     using Layout = quarlo::kernel::Format<kFormat.bytes()>;
-    for (int index = 0; index < count; ++index) {
-        const uint32_t pixel = quarlo::kernel::loadPixel<Layout>(from + index * kFormat.bytes());
+    for (int index = 0; index < count; ++index, from += kFormat.bytes()) {
+        const uint32_t pixel = quarlo::kernel::loadPixel<Layout>(from);
         to[index] = kFormat.palette ? palette[pixel] : rgbOf(kFormat, pixel);
     }
 }

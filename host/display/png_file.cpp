@@ -7,70 +7,32 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
-#include <filesystem>
 #include <memory>
+#include <vector>
 
 namespace gpi {
 namespace {
 
 struct CloseFile {
-    void operator()(std::FILE* file) const { std::fclose(file); }
+    void operator()(std::FILE* file) const { static_cast<void>(std::fclose(file)); }
 };
 
-void setPalette(png_structp png, png_infop info, const Palette& palette) {
-    std::array<png_color, 256> colors{};
-    for (size_t index = 0; index < palette.size(); ++index) {
-        colors[index] = {static_cast<png_byte>(palette[index] >> 16),
-                         static_cast<png_byte>(palette[index] >> 8),
-                         static_cast<png_byte>(palette[index])};
-    }
-    png_set_PLTE(png, info, colors.data(), static_cast<int>(colors.size()));
-}
-
-/// The frame's pixels as PNG rows: indexes as they are, direct colours as red, green, blue.
-std::vector<uint8_t> rowBytes(const Frame& frame) {
-    if (frame.format.palette) {
-        return frame.pixels;
-    }
-    const auto count = static_cast<size_t>(frame.width) * static_cast<size_t>(frame.height);
-    std::vector<uint32_t> rgb(count);
-    convertToRgb(frame, wholeArea(frame.width, frame.height), rgb);
+/// Colours as the bytes red, green, blue.
+template <typename Colors>
+std::vector<uint8_t> bytesOf(const Colors& colors) {
     std::vector<uint8_t> bytes;
-    bytes.reserve(count * 3);
-    for (const uint32_t color : rgb) {
-        bytes.insert(bytes.end(), {static_cast<uint8_t>(color >> 16),
-                                   static_cast<uint8_t>(color >> 8), static_cast<uint8_t>(color)});
+    bytes.reserve(colors.size() * 3);
+    for (const uint32_t rgb : colors) {
+        bytes.insert(bytes.end(), {static_cast<uint8_t>(rgb >> 16), static_cast<uint8_t>(rgb >> 8),
+                                   static_cast<uint8_t>(rgb)});
     }
     return bytes;
 }
 
-[[noreturn]] void fail(png_structp png, png_const_charp /*message*/) {
-    png_longjmp(png, 1);
-}
-
-void ignore(png_structp /*png*/, png_const_charp /*message*/) {}
-
-/// libpng leaves by a long jump when it fails, so nothing with a destructor lives here.
-bool encode(std::FILE* file, const Frame& frame, uint8_t* const* rows) {
-    png_structp png = png_create_write_struct(PNG_LIBPNG_VER_STRING, nullptr, fail, ignore);
-    png_infop info = png != nullptr ? png_create_info_struct(png) : nullptr;
-    if (info == nullptr || setjmp(png_jmpbuf(png)) != 0) {
-        png_destroy_write_struct(&png, &info);
-        return false;
-    }
-    png_init_io(png, file);
-    png_set_IHDR(png, info, static_cast<png_uint_32>(frame.width),
-                 static_cast<png_uint_32>(frame.height), 8,
-                 frame.format.palette ? PNG_COLOR_TYPE_PALETTE : PNG_COLOR_TYPE_RGB,
-                 PNG_INTERLACE_NONE, PNG_COMPRESSION_TYPE_DEFAULT, PNG_FILTER_TYPE_DEFAULT);
-    if (frame.format.palette) {
-        setPalette(png, info, frame.palette);
-    }
-    png_write_info(png, info);
-    png_write_image(png, const_cast<png_bytepp>(rows));
-    png_write_end(png, info);
-    png_destroy_write_struct(&png, &info);
-    return true;
+std::vector<uint8_t> directColors(const Frame& frame) {
+    std::vector<uint32_t> rgb(static_cast<size_t>(frame.width) * static_cast<size_t>(frame.height));
+    convertToRgb(frame, wholeArea(frame.width, frame.height), rgb);
+    return bytesOf(rgb);
 }
 
 bool writeWhole(const std::string& path, const Frame& frame) {
@@ -78,13 +40,22 @@ bool writeWhole(const std::string& path, const Frame& frame) {
     if (file == nullptr) {
         return false;
     }
-    auto bytes = rowBytes(frame);
-    const size_t length = bytes.size() / static_cast<size_t>(frame.height);
-    std::vector<uint8_t*> rows;
-    for (int y = 0; y < frame.height; ++y) {
-        rows.push_back(bytes.data() + static_cast<size_t>(y) * length);
+    png_image image{};
+    image.version = PNG_IMAGE_VERSION;
+    image.width = static_cast<png_uint_32>(frame.width);
+    image.height = static_cast<png_uint_32>(frame.height);
+    int written = 0;
+    if (frame.format.palette) {
+        image.format = PNG_FORMAT_RGB_COLORMAP;
+        image.colormap_entries = static_cast<png_uint_32>(frame.palette.size());
+        written = png_image_write_to_stdio(&image, file.get(), 0, frame.pixels.data(), 0,
+                                           bytesOf(frame.palette).data());
+    } else {
+        image.format = PNG_FORMAT_RGB;
+        written =
+            png_image_write_to_stdio(&image, file.get(), 0, directColors(frame).data(), 0, nullptr);
     }
-    return encode(file.get(), frame, rows.data()) && std::fflush(file.get()) == 0;
+    return written != 0 && std::fflush(file.get()) == 0;
 }
 
 } // namespace
@@ -93,7 +64,7 @@ bool writePng(const Frame& frame, const std::string& path) {
     const std::string fresh = path + ".new";
     if (!writeWhole(fresh, frame) || std::rename(fresh.c_str(), path.c_str()) != 0) {
         report("cannot write the picture " + path + ": " + std::strerror(errno));
-        std::remove(fresh.c_str());
+        static_cast<void>(std::remove(fresh.c_str()));
         return false;
     }
     return true;
