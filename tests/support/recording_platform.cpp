@@ -34,8 +34,9 @@ using ServiceFunctions = std::array<GPIFunction, RecordingPlatform::kLastService
 
 ServiceFunctions recorders() {
     ServiceFunctions functions{};
-    Services::forEach([&]<int Number, typename Signature>(Offer<Number, Signature>) {
-        functions[Number] = reinterpret_cast<GPIFunction>(&Recorder<Number, Signature>::service);
+    Services::forEach([&]<typename Offer>(Offer) {
+        functions[Offer::kNumber] = reinterpret_cast<GPIFunction>(
+            &Recorder<Offer::kNumber, typename Offer::Signature>::service);
     });
     return functions;
 }
@@ -67,6 +68,7 @@ RecordingPlatform::RecordingPlatform() {
     serveMemory();
     serveDisplay();
     serveOperations();
+    serveEvents();
     GetGPIFunction();
     forget();
 }
@@ -79,6 +81,18 @@ RecordingPlatform::~RecordingPlatform() {
 
 RecordingPlatform& RecordingPlatform::current() {
     return *theOne;
+}
+
+void RecordingPlatform::serveEvents() {
+    answer(124, 0); // no message waits
+    serve<27>([this](const GSystemTime* time) {
+        clock = int64_t{time->high} << 32 | time->low;
+        return 1;
+    });
+    serve<28>([this](GSystemTime* time) {
+        *time = {static_cast<uint32_t>(clock), static_cast<int32_t>(clock >> 32)};
+        return 1;
+    });
 }
 
 void RecordingPlatform::unbind() {
@@ -144,4 +158,14 @@ int32_t GPIGetFontCount(void) {
 
 void GPIShutdownEvents(void) {
     RecordingPlatform::current().record(quarlo::test::call(quarlo::test::kShutdownEvents));
+}
+
+void GPITranslateMessage(GMessage* message) {
+    RecordingPlatform::current().record(
+        quarlo::test::call(quarlo::test::kTranslateMessage, message->number));
+}
+
+void GPIDispatchMessage(GMessage* message) {
+    RecordingPlatform::current().record(
+        quarlo::test::call(quarlo::test::kDispatchMessage, message->number));
 }

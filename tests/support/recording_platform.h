@@ -21,8 +21,14 @@
 
 namespace quarlo::test {
 
-/// Entry points of the platform library are recorded like services, under these numbers.
-enum EntryPoint { kFontCount = -21, kShutdownEvents = -24 };
+/// Entry points of the platform library are recorded like services, under these numbers; those for
+/// messages with the message's number.
+enum EntryPoint {
+    kFontCount = -21,
+    kShutdownEvents = -24,
+    kTranslateMessage = -1,
+    kDispatchMessage = -2
+};
 
 /// An argument or result of a service, whatever its type.
 template <typename Value>
@@ -122,6 +128,9 @@ class RecordingPlatform {
     /// Keeps device operations (5, 6, 7, 43, 67, 68, 70) out of `calls`.
     void recordOperations(bool record) { recordOperations_ = record; }
 
+    /// Ticks of the clock (services 27 and 28).
+    int64_t clock = 0;
+
     // What services call.
 
     void record(ServiceCall call);
@@ -144,6 +153,7 @@ class RecordingPlatform {
     void serveMemory();
     void serveDisplay();
     void serveOperations();
+    void serveEvents();
 
     std::array<bool, kLastService + 1> offered_{};
     std::array<std::any, kLastService + 1> functions_;
