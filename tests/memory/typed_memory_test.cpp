@@ -7,8 +7,8 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cstring>
-#include <limits>
 #include <map>
 #include <string>
 #include <vector>
@@ -172,7 +172,8 @@ TEST_F(TypedMemory, ValuesStandInTheMachinesOrderAtAnyOffset) {
     GMGMemSetLong(block, 3, value);
     GMGMemSetDouble(block, 7, number);
     EXPECT_EQ(std::memcmp(block + 3, &value, sizeof value), 0);
-    EXPECT_EQ(std::memcmp(block + 7, &number, sizeof number), 0);
+    const auto bytes = std::bit_cast<std::array<uint8_t, sizeof number>>(number);
+    EXPECT_TRUE(std::equal(bytes.begin(), bytes.end(), block + 7));
     EXPECT_EQ(GMGMemGetDouble(block, 7), number);
 }
 

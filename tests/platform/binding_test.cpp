@@ -8,7 +8,7 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
+#include <iterator>
 #include <set>
 #include <vector>
 
@@ -18,7 +18,7 @@ using namespace quarlo::test;
 namespace {
 
 /// The slots of the service table, as programs and platforms know them.
-const std::vector<int> kSlots = {
+constexpr int kSlots[] = {
     1,   2,   3,   4,   5,   6,   7,   8,   9,   10,  11,  12,  13,  14,  15,  16,  17,  18,  19,
     20,  21,  22,  23,  24,  25,  26,  27,  28,  29,  30,  31,  32,  33,  34,  35,  36,  37,  38,
     39,  40,  41,  42,  57,  43,  44,  45,  128, 47,  46,  48,  49,  125, 50,  51,  52,  53,  126,
@@ -29,7 +29,7 @@ const std::vector<int> kSlots = {
     134, 135, 136, 137, 200, 201, 202, 203, 204, 205, 206, 207};
 
 /// The requests of GetGPIFunction().
-const std::vector<int> kRequests = {
+constexpr int kRequests[] = {
     1,   2,   3,   4,   5,   6,   7,   8,   9,   10,  11,  12,  13,  14,  15,  16,  17,  18,
     19,  20,  21,  22,  23,  24,  25,  26,  27,  28,  29,  30,  31,  32,  33,  34,  35,  36,
     37,  38,  39,  40,  41,  42,  57,  43,  44,  45,  128, 46,  47,  48,  49,  125, 50,  51,
@@ -39,16 +39,20 @@ const std::vector<int> kRequests = {
     107, 108, 109, 110, 111, 112, 113, 114, 115, 116, 117, 118, 119, 120, 121, 122, 123, 124,
     129, 130, 131, 132, 133, 134, 135, 136, 137, 200, 201, 202, 203, 204, 205, 206, 207};
 
+std::vector<int> startupRequests() {
+    return {std::begin(kRequests), std::end(kRequests)};
+}
+
 TEST(ServiceTable, HasASlotForEachServiceInTheKnownOrder) {
-    ASSERT_EQ(kSlots.size(), 145U);
+    ASSERT_EQ(std::size(kSlots), 145U);
     ASSERT_EQ(serviceTable.slots.size(), 145U);
-    for (size_t slot = 0; slot < kSlots.size(); ++slot) {
+    for (size_t slot = 0; slot < std::size(kSlots); ++slot) {
         EXPECT_EQ(slotOf(kSlots[slot]), slot) << "service " << kSlots[slot];
     }
 }
 
 TEST(ServiceTable, HasNoSlotForOtherNumbers) {
-    const std::set<int> services(kSlots.begin(), kSlots.end());
+    const std::set<int> services(std::begin(kSlots), std::end(kSlots));
     for (int number = -300; number <= 300; ++number) {
         if (!services.contains(number)) {
             EXPECT_EQ(slotOf(number), kServiceCount) << number;
@@ -60,8 +64,8 @@ TEST(Binding, AsksForEveryServiceInOrder) {
     RecordingPlatform platform;
     platform.unbind();
     GetGPIFunction();
-    EXPECT_EQ(kRequests.size(), 143U);
-    EXPECT_EQ(platform.requests, kRequests);
+    EXPECT_EQ(std::size(kRequests), 143U);
+    EXPECT_EQ(platform.requests, startupRequests());
     EXPECT_TRUE(platform.calls.empty());
 }
 
@@ -88,7 +92,7 @@ TEST(Binding, BindingAgainFollowsThePlatform) {
     platform.restore(9);
     GetGPIFunction();
     EXPECT_EQ(serviceTable.slots[slotOf(9)], flush);
-    EXPECT_EQ(platform.requests, kRequests);
+    EXPECT_EQ(platform.requests, startupRequests());
 }
 
 TEST(Binding, BindingAgainTakesAwayWhatIsGone) {

@@ -21,6 +21,10 @@ int16_t pixelBytes(const GVram& surface) {
     return static_cast<int16_t>(surface.bitsPerPixel / 8);
 }
 
+uint8_t* addressOf(const GVram& surface, ptrdiff_t x, ptrdiff_t y) {
+    return surface.pixels + y * surface.bytesPerLine + x * pixelBytes(surface);
+}
+
 size_t byteCount(int16_t width, int16_t height, int16_t bitsPerPixel, int16_t padding) {
     return static_cast<size_t>(width * (bitsPerPixel / 8) + padding) * static_cast<size_t>(height);
 }
@@ -113,7 +117,7 @@ GuardedSurface::GuardedSurface(int16_t width, int16_t height, std::vector<uint32
 }
 
 uint32_t pixelAt(const GVram& surface, int x, int y) {
-    const uint8_t* const byte = surface.pixels + y * surface.bytesPerLine + x * pixelBytes(surface);
+    const uint8_t* const byte = addressOf(surface, x, y);
     uint32_t pixel = 0;
     for (int i = 0; i < pixelBytes(surface); ++i) {
         pixel |= uint32_t{byte[i]} << (8 * i);
@@ -122,7 +126,7 @@ uint32_t pixelAt(const GVram& surface, int x, int y) {
 }
 
 void setPixelAt(const GVram& surface, int x, int y, uint32_t pixel) {
-    uint8_t* const byte = surface.pixels + y * surface.bytesPerLine + x * pixelBytes(surface);
+    uint8_t* const byte = addressOf(surface, x, y);
     for (int i = 0; i < pixelBytes(surface); ++i) {
         byte[i] = static_cast<uint8_t>(pixel >> (8 * i));
     }

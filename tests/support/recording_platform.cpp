@@ -41,7 +41,10 @@ ServiceFunctions recorders() {
     return functions;
 }
 
-const ServiceFunctions kRecorders = recorders();
+GPIFunction recorderOf(int service) {
+    static const ServiceFunctions functions = recorders();
+    return functions.at(static_cast<size_t>(service));
+}
 
 bool isOperation(int service) {
     static const std::set<int> operations = {5, 6, 7, 43, 67, 68, 70};
@@ -63,8 +66,9 @@ std::ostream& operator<<(std::ostream& out, const ServiceCall& call) {
 RecordingPlatform::RecordingPlatform() {
     EXPECT_EQ(theOne, nullptr) << "one platform at a time";
     theOne = this;
-    std::transform(kRecorders.begin(), kRecorders.end(), offered_.begin(),
-                   [](GPIFunction function) { return function != nullptr; });
+    for (int service = 0; service <= kLastService; ++service) {
+        restore(service);
+    }
     serveMemory();
     serveDisplay();
     serveOperations();
@@ -107,7 +111,7 @@ void RecordingPlatform::remove(std::initializer_list<int> services) {
 }
 
 void RecordingPlatform::restore(int service) {
-    offered_.at(static_cast<size_t>(service)) = kRecorders.at(static_cast<size_t>(service));
+    offered_.at(static_cast<size_t>(service)) = recorderOf(service) != nullptr;
 }
 
 bool RecordingPlatform::offers(int service) const {
@@ -139,7 +143,7 @@ int64_t RecordingPlatform::answerOf(int service, int64_t otherwise) const {
 
 GPIFunction RecordingPlatform::request(int service) {
     requests.push_back(service);
-    return offers(service) ? kRecorders[static_cast<size_t>(service)] : nullptr;
+    return offers(service) ? recorderOf(service) : nullptr;
 }
 
 } // namespace quarlo::test

@@ -43,6 +43,8 @@ int64_t asWord(Value value) {
 template <typename Value>
 Value fromWord(int64_t word) {
     if constexpr (std::is_pointer_v<Value>) {
+        // A recorded word becomes the pointer that it was.
+        // NOLINTNEXTLINE(performance-no-int-to-ptr)
         return reinterpret_cast<Value>(static_cast<uintptr_t>(word));
     } else if constexpr (!std::is_void_v<Value>) {
         return static_cast<Value>(word);
