@@ -1,0 +1,165 @@
+#include "workload.h"
+
+#include <algorithm>
+
+namespace bench {
+namespace {
+
+constexpr Format kFormats[] = {Format::Rgb332, Format::Rgb565, Format::Rgb24};
+constexpr Mode kModes[] = {Mode::Copy, Mode::And, Mode::Or, Mode::Xor};
+constexpr Step kSteps[] = {{0, -1}, {0, 1}, {-1, 0}, {1, 0}};
+
+struct Extent {
+    int width;
+    int height;
+};
+constexpr Extent kExtents[] = {{8, 8}, {16, 16}, {32, 32}, {100, 100}, {kWidth, kHeight}};
+
+struct Conversion {
+    Format from;
+    Format to;
+};
+constexpr Conversion kConversions[] = {
+    {Format::Rgb555, Format::Rgb24},    {Format::Rgb24, Format::Rgb555},
+    {Format::Rgb565, Format::Rgb24},    {Format::Rgb24, Format::Rgb565},
+    {Format::Rgb555, Format::Rgb565},   {Format::Rgb565, Format::Rgb555},
+    {Format::Rgb332, Format::Rgb565},   {Format::Rgb332, Format::Rgb24},
+    {Format::Palette8, Format::Rgb555}, {Format::Palette8, Format::Rgb565},
+    {Format::Palette8, Format::Rgb24},
+};
+
+/// What a workload of one operation covers, at the extents of rectangles.
+Extent extentFor(Operation operation, Extent extent) {
+    switch (operation) {
+    case Operation::Span:
+        return {extent.width, 1};
+    case Operation::Column:
+        return {1, extent.height};
+    case Operation::Line:
+    case Operation::LineTo:
+    case Operation::Dash:
+        return extent.width == kWidth ? Extent{0, 0} : extent;
+    default:
+        return extent;
+    }
+}
+
+const char* nameOf(Operation operation) {
+    switch (operation) {
+    case Operation::Fill:
+        return "fill";
+    case Operation::Pattern:
+        return "pattern";
+    case Operation::Span:
+        return "span";
+    case Operation::Column:
+        return "column";
+    case Operation::Line:
+        return "line";
+    case Operation::LineTo:
+        return "lineto";
+    case Operation::Dash:
+        return "dash";
+    case Operation::Transfer:
+        return "transfer";
+    case Operation::Scroll:
+        return "scroll";
+    case Operation::Convert:
+        return "convert";
+    }
+    return "";
+}
+
+const char* nameOf(Mode mode) {
+    constexpr const char* kNames[] = {"copy", "and", "or", "xor"};
+    return kNames[static_cast<int>(mode)];
+}
+
+const char* nameOf(Step step) {
+    if (step.y != 0) {
+        return step.y < 0 ? "up" : "down";
+    }
+    return step.x < 0 ? "left" : "right";
+}
+
+/// Formats of one size take the same time in everything but conversions, so their size names them.
+std::string nameOf(Format format) {
+    return std::to_string(8 * bytesPerPixel(format));
+}
+
+std::string channelsOf(Format format) {
+    constexpr const char* kNames[] = {"332", "555", "565", "888", "palette"};
+    return kNames[static_cast<int>(format)];
+}
+
+std::string sizeOf(const Workload& workload) {
+    const int size = std::max(workload.width, workload.height);
+    const bool whole = workload.width == kWidth || workload.height == kHeight || size == 0;
+    return whole ? "full" : std::to_string(size);
+}
+
+void addRectangular(std::vector<Workload>& list, Operation operation) {
+    for (const Extent& extent : kExtents) {
+        const Extent covered = extentFor(operation, extent);
+        for (const Format format : kFormats) {
+            for (const Mode mode : kModes) {
+                list.push_back(
+                    {operation, covered.width, covered.height, format, format, mode, {}});
+            }
+        }
+    }
+}
+
+void addScrolls(std::vector<Workload>& list) {
+    for (const Step step : kSteps) {
+        for (const Format format : kFormats) {
+            list.push_back({Operation::Scroll, kWidth, kHeight, format, format, Mode::Copy, step});
+        }
+    }
+}
+
+/// Sizes make little difference here, so only two are measured.
+void addConversions(std::vector<Workload>& list) {
+    for (const Extent& extent : {kExtents[1], kExtents[4]}) {
+        for (const auto& [from, to] : kConversions) {
+            for (const Mode mode : kModes) {
+                list.push_back(
+                    {Operation::Convert, extent.width, extent.height, to, from, mode, {}});
+            }
+        }
+    }
+}
+
+} // namespace
+
+std::vector<Workload> allWorkloads() {
+    std::vector<Workload> list;
+    for (const Operation operation :
+         {Operation::Fill, Operation::Pattern, Operation::Span, Operation::Column, Operation::Line,
+          Operation::Dash, Operation::Transfer}) {
+        addRectangular(list, operation);
+    }
+    for (const Format format : kFormats) {
+        list.push_back({Operation::LineTo, 100, 100, format, format, Mode::Copy, {}});
+    }
+    addScrolls(list);
+    addConversions(list);
+    return list;
+}
+
+std::string nameOf(const Workload& workload) {
+    const bool scrolls = workload.operation == Operation::Scroll;
+    const bool converts = workload.operation == Operation::Convert;
+    std::string name = nameOf(workload.operation);
+    name += '/' + (scrolls ? nameOf(workload.step) : sizeOf(workload));
+    name += '/' + (converts ? channelsOf(workload.source) + '-' + channelsOf(workload.format)
+                            : nameOf(workload.format));
+    return name + '/' + nameOf(workload.mode);
+}
+
+bool isLine(Operation operation) {
+    return operation == Operation::Line || operation == Operation::LineTo ||
+           operation == Operation::Dash;
+}
+
+} // namespace bench
