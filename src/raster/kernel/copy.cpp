@@ -1,4 +1,5 @@
-#include "raster/kernel/tile.h"
+#include "raster/kernel/block.h"
+#include "raster/kernel/mode.h"
 #include "raster/kernel/transfer.h"
 
 namespace quarlo::kernel {

@@ -1,42 +1,49 @@
 // Rectangles, solid and patterned.
 #pragma once
 
-#include "raster/kernel/tile.h"
+#include "raster/kernel/rows.h"
 
 #include <algorithm>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 
 namespace quarlo::kernel {
 
+/// A rectangle one pixel wide: no row of it is worth a block.
 template <typename Format, typename Mode>
-uint8_t* fill(uint8_t* at, ptrdiff_t stride, int32_t width, int32_t height, uint32_t pixel) {
-    const Tile tile = solidTile<Format>(pixel);
-    auto length = static_cast<size_t>(width) * Format::kBytes;
-    if (static_cast<ptrdiff_t>(length) == stride) {
-        length *= static_cast<size_t>(height);
-        height = 1;
+void fillColumn(uint8_t* at, ptrdiff_t stride, int32_t height, uint32_t pixel) {
+    for (; height > 0; --height, at += stride) {
+        putPixel<Format, Mode>(at, pixel);
     }
-    for (; height > 1; --height) {
-        fillRow<Mode>(at, length, tile.bytes);
-        at += stride;
-    }
-    fillRow<Mode>(at, length, tile.bytes);
-    return at + length;
 }
 
 template <typename Format, typename Mode>
+uint8_t* fill(uint8_t* at, ptrdiff_t stride, int32_t width, int32_t height, uint32_t pixel) {
+    auto length = static_cast<size_t>(width) * Format::kBytes;
+    uint8_t* const end = at + (height - 1) * stride + length;
+    if (width == 1) {
+        fillColumn<Format, Mode>(at, stride, height, pixel);
+        return end;
+    }
+    if (static_cast<ptrdiff_t>(length) == stride && (Mode::kReads || length < kLongRow)) {
+        length *= static_cast<size_t>(height);
+        height = 1;
+    }
+    fillRows<Mode>(at, stride, length, height, Solid<Format>(pixel).row(length));
+    return end;
+}
+
+/// Every eighth row is the same, so the rows are drawn in eight turns.
+template <typename Format, typename Mode>
 uint8_t* fillPattern(uint8_t* at, ptrdiff_t stride, int32_t width, int32_t height, uint32_t fore,
                      uint32_t back, const uint8_t rows[8], int32_t x, int32_t y) {
-    Tile tiles[8];
-    const int32_t distinct = std::min(height, 8);
-    for (int32_t row = 0; row < distinct; ++row) {
-        const uint8_t bits = std::rotl(rows[(y + row) & 7], x & 7);
-        tiles[row] = patternTile<Format>(bits, fore, back);
-    }
+    const Patterned<Format> pattern(fore, back);
     const auto length = static_cast<size_t>(width) * Format::kBytes;
-    for (int32_t row = 0; row < height; ++row) {
-        fillRow<Mode>(at + row * stride, length, tiles[row & 7].bytes);
+    for (int32_t row = 0; row < std::min(height, 8); ++row) {
+        const uint8_t bits = std::rotl(rows[(y + row) & 7], x & 7);
+        fillRows<Mode>(at + row * stride, 8 * stride, length, (height - row + 7) / 8,
+                       pattern.row(bits, length));
     }
     return at + (height - 1) * stride + length;
 }

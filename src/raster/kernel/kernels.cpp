@@ -2,6 +2,7 @@
 
 #include "raster/kernel/fill.h"
 #include "raster/kernel/line.h"
+#include "raster/kernel/mode.h"
 #include "raster/kernel/spans.h"
 
 namespace quarlo::kernel {

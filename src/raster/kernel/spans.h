@@ -2,26 +2,13 @@
 #pragma once
 
 #include "raster/kernel/kernels.h"
-#include "raster/kernel/tile.h"
+#include "raster/kernel/rows.h"
 
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 
 namespace quarlo::kernel {
-
-/// A tile of twice the length, so that a row can start at every pixel of an 8-pixel pattern.
-struct PatternTile {
-    uint8_t bytes[2 * Tile::kPeriod];
-
-    template <typename Format>
-    static PatternTile make(uint8_t row, uint32_t fore, uint32_t back) {
-        const Tile tile = patternTile<Format>(row, fore, back);
-        PatternTile twice;
-        std::memcpy(twice.bytes, tile.bytes, Tile::kPeriod);
-        std::memcpy(twice.bytes + Tile::kPeriod, tile.bytes, Tile::kPeriod);
-        return twice;
-    }
-};
 
 template <typename Format>
 inline uint8_t* spanStart(uint8_t* pixels, ptrdiff_t stride, const Span& span) {
@@ -36,12 +23,12 @@ inline size_t spanLength(const Span& span) {
 template <typename Format, typename Mode>
 uint8_t* fillSpans(uint8_t* pixels, ptrdiff_t stride, const Span* spans, int32_t count,
                    uint32_t pixel) {
-    const Tile tile = solidTile<Format>(pixel);
+    const Solid<Format> solid(pixel);
     uint8_t* end = nullptr;
     for (int32_t i = 0; i < count; ++i) {
         uint8_t* const start = spanStart<Format>(pixels, stride, spans[i]);
         const size_t length = spanLength<Format>(spans[i]);
-        fillRow<Mode>(start, length, tile.bytes);
+        fillRows<Mode>(start, stride, length, 1, solid.row(length));
         end = start + length;
     }
     return end;
@@ -50,19 +37,14 @@ uint8_t* fillSpans(uint8_t* pixels, ptrdiff_t stride, const Span* spans, int32_t
 template <typename Format, typename Mode>
 uint8_t* fillPatternSpans(uint8_t* pixels, ptrdiff_t stride, const Span* spans, int32_t count,
                           uint32_t fore, uint32_t back, const uint8_t rows[8]) {
-    PatternTile tiles[8];
-    unsigned made = 0;
+    const Patterned<Format> pattern(fore, back);
     uint8_t* end = nullptr;
     for (int32_t i = 0; i < count; ++i) {
         const Span& span = spans[i];
-        const int row = span.y & 7;
-        if ((made >> row & 1) == 0) {
-            tiles[row] = PatternTile::make<Format>(rows[row], fore, back);
-            made |= 1U << row;
-        }
         uint8_t* const start = spanStart<Format>(pixels, stride, span);
         const size_t length = spanLength<Format>(span);
-        fillRow<Mode>(start, length, tiles[row].bytes + (span.left & 7) * Format::kBytes);
+        const uint8_t bits = std::rotl(rows[span.y & 7], span.left & 7);
+        fillRows<Mode>(start, stride, length, 1, pattern.row(bits, length));
         end = start + length;
     }
     return end;

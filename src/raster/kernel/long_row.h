@@ -1,0 +1,35 @@
+// Rows so long that wider stores than those of every processor pay.
+#pragma once
+
+#include "raster/kernel/row_color.h"
+
+#include <cstddef>
+#include <cstdint>
+
+namespace quarlo::kernel {
+
+/// Whole periods, and whole vectors of every width up to 64 bytes.
+struct LongTile {
+    static constexpr size_t kBytes = 4 * kPeriod;
+    alignas(64) uint8_t bytes[kBytes];
+
+    explicit LongTile(const RowColor& color) {
+        for (uint8_t* at = bytes; at < bytes + kBytes; at += kPeriod) {
+            storeBlock(at, color.first);
+            storeBlock(at + kBlock, color.second);
+            storeBlock(at + 2 * kBlock, color.third);
+        }
+    }
+};
+
+/// From these lengths on a call a row, or a tile and a call a row, cost less than they gain.
+inline constexpr size_t kLongRow = 512;
+inline constexpr size_t kLongCombine = 2048;
+
+/// Combines `count` tiles into memory, one behind the other.
+using CombineLong = void (*)(uint8_t* at, size_t count, const LongTile& tile);
+
+/// By drawing mode; none for copy, which reads nothing.
+extern const CombineLong kCombineLong[4];
+
+} // namespace quarlo::kernel
