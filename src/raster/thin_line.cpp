@@ -36,6 +36,11 @@ void drawThinLine(const Canvas& canvas, const GLine& line) {
                     canvas.handle.drawingMode);
         return;
     }
+    if (line.x1 == line.x2 && canvas.kernels != nullptr) {
+        fillRect(canvas, {line.x1, std::min(line.y1, line.y2), line.x1, std::max(line.y1, line.y2)},
+                 pixel, canvas.handle.drawingMode);
+        return;
+    }
     const GLine forward = ordered(line);
     const LineCourse course(forward);
     if (canvas.kernels == nullptr) {
