@@ -1,124 +1,141 @@
-// Conversion between pixel layouts, a short run of pixels at a time: read into pixel values, move
-// the channels, write in the destination's format. The steps are loops over plain arrays, which the
-// compiler turns into vector code.
-#include "raster/kernel/format.h"
+// Conversion between pixel layouts. Each pair of formats has a row converter that writes pixels in
+// the destination's format; drawing modes other than copy convert a short run at a time and then
+// combine its bytes.
+#include "raster/kernel/any_move.h"
+#include "raster/kernel/convert_lanes.h"
 #include "raster/kernel/mode.h"
-#include "raster/kernel/transfer.h"
 
 #include <algorithm>
+#include <bit>
 
 namespace quarlo::kernel {
 namespace {
 
 constexpr int32_t kRun = 64;
 
-/// Moves one channel from its place in the source to its place in the destination.
-struct ChannelMove {
-    uint32_t mask;
-    int down;        ///< right shift that brings the mask's top bit to bit 7, or
-    int up;          ///< left shift that does
-    uint32_t lowest; ///< lowest bit of the mask so moved
-    int placeDown;   ///< then right, or
-    int placeUp;     ///< left to the destination's place
-    uint32_t place;  ///< destination mask
+/// What row converters work with.
+struct Converter {
+    AnyMove any;
+    PixelMove plain;
+    uint32_t values[256]; ///< the destination's pixel values by source byte, where that is all
 
-    ChannelMove(uint32_t from, uint32_t to) : mask(from), place(to) {
-        const int source = channelShift(from);
-        const int target = channelShift(to);
-        down = std::max(source, 0);
-        up = std::max(-source, 0);
-        placeDown = std::max(-target, 0);
-        placeUp = std::max(target, 0);
-        const uint32_t moved = shiftBy(from, -source) & 0xFF;
-        lowest = moved & (~moved + 1);
-    }
-
-    uint32_t operator()(uint32_t value) const {
-        uint32_t channel = (value & mask) >> down << up;
-        channel |= (channel & lowest) != 0 ? lowest - 1 : 0;
-        return channel >> placeDown << placeUp & place;
-    }
-};
-
-struct PixelMove {
-    ChannelMove red;
-    ChannelMove green;
-    ChannelMove blue;
-
-    PixelMove(const PixelLayout& from, const PixelLayout& to)
-        : red(from.red, to.red), green(from.green, to.green), blue(from.blue, to.blue) {}
-
-    void operator()(uint32_t* values, int32_t count) const {
-        const PixelMove move = *this;
-        for (int32_t at = 0; at < count; ++at) {
-            values[at] = move.red(values[at]) | move.green(values[at]) | move.blue(values[at]);
+    Converter(const PixelLayout& from, const PixelLayout& to) : any(from, to), plain(from, to) {
+        if (from.palette != nullptr) {
+            const auto count = static_cast<int32_t>(std::min<uint32_t>(from.paletteCount, 256));
+            std::transform(from.palette, from.palette + count, values, any);
+            std::fill(values + count, values + 256, 0U);
+        } else if (from.bitsPerPixel == 8) {
+            for (uint32_t value = 0; value < 256; ++value) {
+                values[value] = any(value);
+            }
         }
     }
 };
 
-template <typename Format>
-void readRun(const uint8_t* from, uint32_t* values, int32_t count) {
-    for (int32_t at = 0; at < count; ++at) {
-        values[at] = loadPixel<Format>(from + at * Format::kBytes);
+using ConvertRow = void (*)(uint8_t* to, const uint8_t* from, int32_t count,
+                            const Converter& converter);
+
+/// A source's first byte chooses the pixel.
+template <typename From, typename To>
+void lookUpRow(uint8_t* to, const uint8_t* from, int32_t count, const Converter& converter) {
+    int32_t at = 0;
+    // A whole word is one store where three bytes are two; its fourth byte is the next pixel's.
+    if constexpr (To::kBytes == 3 && std::endian::native == std::endian::little) {
+        for (; at < count - 1; ++at) {
+            storeWord(to + at * To::kBytes, converter.values[from[at * From::kBytes]]);
+        }
+    }
+    for (; at < count; ++at) {
+        putPixel<To, Copy>(to + at * To::kBytes, converter.values[from[at * From::kBytes]]);
     }
 }
 
-template <typename Format, typename Mode>
-void writeRun(uint8_t* to, const uint32_t* values, int32_t count) {
-    for (int32_t at = 0; at < count; ++at) {
-        putPixel<Format, Mode>(to + at * Format::kBytes, values[at]);
+template <typename From, typename To>
+void moveRow(uint8_t* to, const uint8_t* from, int32_t count, const Converter& converter) {
+    const AnyMove move = converter.any;
+    for (; count > 0; --count, to += To::kBytes, from += From::kBytes) {
+        putPixel<To, Copy>(to, move(loadPixel<From>(from)));
     }
 }
 
-/// A palette brought to the destination's layout once, for every index a byte can name.
-struct ConvertedPalette {
-    uint32_t values[256];
-
-    ConvertedPalette(const PixelLayout& from, const PixelMove& move) {
-        const auto count = static_cast<int32_t>(std::min<uint32_t>(from.paletteCount, 256));
-        std::copy_n(from.palette, count, values);
-        std::fill(values + count, values + 256, 0U);
-        move(values, 256);
+template <typename From, typename To, bool kWidens>
+void moveRowOfLanes(uint8_t* to, const uint8_t* from, int32_t count, const Converter& converter) {
+    const PixelMove move = converter.plain;
+    for (; count >= kLanes; count -= kLanes) {
+        convertEight<From, To, kWidens>(to, from, move);
+        to += kLanes * To::kBytes;
+        from += kLanes * From::kBytes;
     }
-};
+    if (count > 0) {
+        moveRow<From, To>(to, from, count, converter);
+    }
+}
 
-using ReadRun = void (*)(const uint8_t*, uint32_t*, int32_t);
-using WriteRun = void (*)(uint8_t*, const uint32_t*, int32_t);
+bool fitsLanes(const PixelLayout& layout) {
+    if (layout.bitsPerPixel == 24) {
+        return isOfBytes(layout);
+    }
+    return (layout.red | layout.green | layout.blue) <= 0xFFFF && isPlain(layout.red) &&
+           isPlain(layout.green) && isPlain(layout.blue);
+}
 
-template <typename Format>
-constexpr WriteRun kWriters[] = {writeRun<Format, Copy>, writeRun<Format, And>,
-                                 writeRun<Format, Or>, writeRun<Format, Xor>};
+template <typename From, typename To>
+ConvertRow rowFor(const PixelLayout& from, const PixelLayout& to, const Converter& converter) {
+    if (From::kBytes == 1 || from.palette != nullptr) {
+        return lookUpRow<From, To>;
+    }
+    if constexpr (From::kBytes > 1 && To::kBytes > 1 && From::kBytes + To::kBytes < 6 &&
+                  std::endian::native == std::endian::little) {
+        if (fitsLanes(from) && fitsLanes(to)) {
+            return converter.plain.widens() ? moveRowOfLanes<From, To, true>
+                                            : moveRowOfLanes<From, To, false>;
+        }
+    }
+    return moveRow<From, To>;
+}
 
-WriteRun writerFor(int32_t bitsPerPixel, int32_t mode) {
-    switch (bitsPerPixel) {
+template <typename From>
+ConvertRow rowFrom(const PixelLayout& from, const PixelLayout& to, const Converter& converter) {
+    switch (to.bitsPerPixel) {
     case 8:
-        return kWriters<Format8>[mode];
+        return rowFor<From, Format8>(from, to, converter);
     case 16:
-        return kWriters<Format16>[mode];
+        return rowFor<From, Format16>(from, to, converter);
     default:
-        return kWriters<Format24>[mode];
+        return rowFor<From, Format24>(from, to, converter);
     }
 }
 
-ReadRun readerFor(int32_t bitsPerPixel) {
-    switch (bitsPerPixel) {
+ConvertRow rowFor(const PixelLayout& from, const PixelLayout& to, const Converter& converter) {
+    switch (from.bitsPerPixel) {
     case 8:
-        return readRun<Format8>;
+        return rowFrom<Format8>(from, to, converter);
     case 16:
-        return readRun<Format16>;
+        return rowFrom<Format16>(from, to, converter);
     default:
-        return readRun<Format24>;
+        return rowFrom<Format24>(from, to, converter);
     }
 }
 
-/// Walks both rectangles in runs of at most kRun pixels.
-template <typename Run>
-void forEachRun(const Transfer& transfer, int32_t fromBytes, int32_t toBytes, const Run& run) {
-    for (int32_t row = 0; row < transfer.height; ++row) {
-        uint8_t* const to = transfer.to + row * transfer.toStride;
-        const uint8_t* const from = transfer.from + row * transfer.fromStride;
-        for (int32_t x = 0; x < transfer.width; x += kRun) {
-            run(to + x * toBytes, from + x * fromBytes, std::min(kRun, transfer.width - x));
+template <typename Mode>
+void convertRows(const Transfer& transfer, int32_t fromBytes, int32_t toBytes, ConvertRow row,
+                 const Converter& converter) {
+    uint8_t run[kRun * 3];
+    for (int32_t y = 0; y < transfer.height; ++y) {
+        uint8_t* to = transfer.to + y * transfer.toStride;
+        const uint8_t* from = transfer.from + y * transfer.fromStride;
+        if constexpr (!Mode::kReads) {
+            row(to, from, transfer.width, converter);
+            continue;
+        }
+        for (int32_t left = transfer.width; left > 0; left -= kRun) {
+            const int32_t count = std::min(left, kRun);
+            row(run, from, count, converter);
+            for (int32_t byte = 0; byte < count * toBytes; ++byte) {
+                to[byte] = Mode::combine(to[byte], run[byte]);
+            }
+            to += count * toBytes;
+            from += count * fromBytes;
         }
     }
 }
@@ -127,32 +144,14 @@ void forEachRun(const Transfer& transfer, int32_t fromBytes, int32_t toBytes, co
 
 void convertRect(const Transfer& transfer, const PixelLayout& from, const PixelLayout& to,
                  int32_t mode) {
+    constexpr decltype(&convertRows<Copy>) kModes[] = {convertRows<Copy>, convertRows<And>,
+                                                       convertRows<Or>, convertRows<Xor>};
     if (mode < 0 || mode > 3) {
         return;
     }
-    const PixelMove move(from, to);
-    const WriteRun write = writerFor(to.bitsPerPixel, mode);
-    const int32_t fromBytes = from.bitsPerPixel / 8;
-    const int32_t toBytes = to.bitsPerPixel / 8;
-    uint32_t values[kRun];
-    if (from.palette != nullptr) {
-        const ConvertedPalette palette(from, move);
-        forEachRun(transfer, fromBytes, toBytes,
-                   [&](uint8_t* into, const uint8_t* source, int32_t count) {
-                       for (int32_t at = 0; at < count; ++at) {
-                           values[at] = palette.values[source[at * fromBytes]];
-                       }
-                       write(into, values, count);
-                   });
-        return;
-    }
-    const ReadRun read = readerFor(from.bitsPerPixel);
-    forEachRun(transfer, fromBytes, toBytes,
-               [&](uint8_t* into, const uint8_t* source, int32_t count) {
-                   read(source, values, count);
-                   move(values, count);
-                   write(into, values, count);
-               });
+    const Converter converter(from, to);
+    kModes[mode](transfer, from.bitsPerPixel / 8, to.bitsPerPixel / 8, rowFor(from, to, converter),
+                 converter);
 }
 
 } // namespace quarlo::kernel

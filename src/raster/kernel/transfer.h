@@ -1,6 +1,7 @@
 // Block transfers between rectangles of pixel memory.
 #pragma once
 
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 
@@ -44,11 +45,7 @@ void convertRect(const Transfer& transfer, const PixelLayout& from, const PixelL
 /// The shift that moves an 8-bit channel's top bit onto the mask's top bit: left when positive,
 /// right when negative, 0 for an empty mask.
 constexpr int channelShift(uint32_t mask) {
-    int bits = 0;
-    for (; mask != 0; mask >>= 1) {
-        ++bits;
-    }
-    return bits == 0 ? 0 : bits - 8;
+    return mask == 0 ? 0 : static_cast<int>(std::bit_width(mask)) - 8;
 }
 
 /// Shifts left by a positive and right by a negative amount; past the word's width gives 0.
