@@ -7,6 +7,14 @@
 #include <quarlo/draw.h>
 
 namespace quarlo {
+namespace {
+
+/// As most lines are: these need no clipping.
+bool isInside(const GLine& line, const GRect& area) {
+    return contains(area, line.x1, line.y1) && contains(area, line.x2, line.y2);
+}
+
+} // namespace
 
 int32_t GDRasterLine(const Canvas& canvas, const GLine& line) {
     const GDrawHandle& handle = canvas.handle;
@@ -14,7 +22,8 @@ int32_t GDRasterLine(const Canvas& canvas, const GLine& line) {
         return drawDashedLine(canvas, line) ? 1 : 0;
     }
     GLine clipped = line;
-    if (!isValid(canvas.area) || !GDClipLine(clipped, canvas.area)) {
+    if (!isInside(line, canvas.area) &&
+        (!isValid(canvas.area) || !GDClipLine(clipped, canvas.area))) {
         return 0;
     }
     if (isWide(handle)) {
