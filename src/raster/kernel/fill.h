@@ -26,7 +26,7 @@ uint8_t* fill(uint8_t* at, ptrdiff_t stride, int32_t width, int32_t height, uint
         fillColumn<Format, Mode>(at, stride, height, pixel);
         return end;
     }
-    if (static_cast<ptrdiff_t>(length) == stride && (Mode::kReads || length < kLongRow)) {
+    if (static_cast<ptrdiff_t>(length) == stride) {
         length *= static_cast<size_t>(height);
         height = 1;
     }

@@ -2,6 +2,9 @@
 
 #include "raster/kernel/mode.h"
 
+#include <algorithm>
+#include <cstring>
+
 // One copy of a function for every processor and one for those with 32-byte vectors, chosen when
 // the library is loaded. It halves the time of
 // full-screen fills.
@@ -39,6 +42,12 @@ QUARLO_WIDEST void xorTiles(uint8_t* at, size_t count, const LongTile& tile) {
 }
 
 } // namespace
+
+void copyAlong(uint8_t* at, size_t length, size_t part) {
+    for (size_t done = part; done < length; done += part) {
+        std::memcpy(at + done, at, std::min(part, length - done));
+    }
+}
 
 const CombineLong kCombineLong[4] = {nullptr, andTiles, orTiles, xorTiles};
 

@@ -22,9 +22,16 @@ struct LongTile {
     }
 };
 
-/// From these lengths on a call a row, or a tile and a call a row, cost less than they gain.
+/// From this length on a call for each row costs less than it gains.
 inline constexpr size_t kLongRow = 512;
-inline constexpr size_t kLongCombine = 2048;
+
+/// From this length on a single row is worth a tile, or a part that is copied over the rest: whole
+/// periods, few enough to stay in the nearest cache.
+inline constexpr size_t kLongPart = 2048;
+inline constexpr size_t kCopiedPart = 32 * kPeriod;
+
+/// Copies the first `part` bytes of a row over the rest of it.
+void copyAlong(uint8_t* at, size_t length, size_t part);
 
 /// Combines `count` tiles into memory, one behind the other.
 using CombineLong = void (*)(uint8_t* at, size_t count, const LongTile& tile);

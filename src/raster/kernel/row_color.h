@@ -23,6 +23,9 @@ struct RowColor {
     Block second;
     Block third;
     Block last; ///< what the row's last 16 bytes get; of no meaning in a row shorter than that
+
+    /// The same for a row that ends with a period.
+    RowColor wholePeriods() const { return {first, second, third, third}; }
 };
 
 /// A single colour.

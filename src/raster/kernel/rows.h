@@ -5,6 +5,7 @@
 #include "raster/kernel/long_row.h"
 #include "raster/kernel/row_color.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -31,13 +32,15 @@ inline void fillRow(uint8_t* at, size_t length, const RowColor& color) {
     storeBlock(end, Mode::combine(old, color.last));
 }
 
-/// Long rows use the widest vectors of the processor at hand: the C library's own copy of the first
-/// row where nothing is read, and otherwise a tile in memory.
+/// Long rows use the widest vectors of the processor at hand: the C library's own copy of what was
+/// filled first where nothing is read, and otherwise a tile in memory.
 template <typename Mode>
 void fillLongRows(uint8_t* at, ptrdiff_t stride, size_t length, int32_t height,
                   const RowColor& color) {
     if constexpr (!Mode::kReads) {
-        fillRow<Mode>(at, length, color);
+        const size_t part = std::min(length, kCopiedPart);
+        fillRow<Mode>(at, part, part < length ? color.wholePeriods() : color);
+        copyAlong(at, length, part);
         for (const uint8_t* const first = at; height > 1; --height) {
             at += stride;
             std::memcpy(at, first, length);
@@ -72,7 +75,7 @@ inline void fillShortRows(uint8_t* at, ptrdiff_t stride, size_t length, int32_t 
 template <typename Mode>
 inline void fillRows(uint8_t* at, ptrdiff_t stride, size_t length, int32_t height,
                      const RowColor& color) {
-    if (Mode::kReads ? length >= kLongCombine : length >= kLongRow && height > 1) {
+    if (length >= kLongPart || (!Mode::kReads && length >= kLongRow && height > 1)) {
         fillLongRows<Mode>(at, stride, length, height, color);
     } else if (length >= kBlock) {
         for (; height > 0; --height, at += stride) {
