@@ -2,38 +2,48 @@
 #include "raster/kernel/mode.h"
 #include "raster/kernel/transfer.h"
 
+#include <cstdlib>
+#include <cstring>
+
 namespace quarlo::kernel {
 namespace {
 
-/// Combines a row into one that may begin at a lower address within it.
+/// Of two words' length at most, at least one: both are read before either is written, so the rows
+/// may overlap and the words too.
+template <typename Mode, typename Word>
+void combineTwo(uint8_t* to, const uint8_t* from, size_t count) {
+    const size_t last = count - sizeof(Word);
+    const Word first = Mode::combine(loadWord<Word>(to), loadWord<Word>(from));
+    const Word second = Mode::combine(loadWord<Word>(to + last), loadWord<Word>(from + last));
+    storeWord(to, first);
+    storeWord(to + last, second);
+}
+
+/// A row of more than two blocks, combined into one that may begin at a lower address within it.
+/// What is left behind whole blocks is a block that overlaps the last of them, worked out first.
 template <typename Mode>
 void combineForward(uint8_t* to, const uint8_t* from, size_t count) {
-    for (; count >= 16; count -= 16) {
+    uint8_t* const end = to + count - kBlock;
+    const Block last = Mode::combine(loadBlock(end), loadBlock(from + count - kBlock));
+    for (; to < end; to += kBlock, from += kBlock) {
         storeBlock(to, Mode::combine(loadBlock(to), loadBlock(from)));
-        to += 16;
-        from += 16;
     }
-    for (; count > 0; --count) {
-        *to = Mode::combine(*to, *from);
-        ++to;
-        ++from;
-    }
+    storeBlock(end, last);
 }
 
-/// Combines a row into one that may begin at a higher address within it.
+/// The same for one that may begin at a higher address.
 template <typename Mode>
 void combineBackward(uint8_t* to, const uint8_t* from, size_t count) {
-    for (; count >= 16; count -= 16) {
-        uint8_t* const last = to + count - 16;
-        storeBlock(last, Mode::combine(loadBlock(last), loadBlock(from + count - 16)));
+    const Block first = Mode::combine(loadBlock(to), loadBlock(from));
+    for (; count > kBlock; count -= kBlock) {
+        uint8_t* const last = to + count - kBlock;
+        storeBlock(last, Mode::combine(loadBlock(last), loadBlock(from + count - kBlock)));
     }
-    for (; count > 0; --count) {
-        to[count - 1] = Mode::combine(to[count - 1], from[count - 1]);
-    }
+    storeBlock(to, first);
 }
 
 template <typename Mode>
-void copyRow(uint8_t* to, const uint8_t* from, size_t count) {
+void copyLongRow(uint8_t* to, const uint8_t* from, size_t count) {
     if constexpr (!Mode::kReads) {
         std::memmove(to, from, count);
     } else if (reinterpret_cast<uintptr_t>(to) <= reinterpret_cast<uintptr_t>(from)) {
@@ -44,12 +54,36 @@ void copyRow(uint8_t* to, const uint8_t* from, size_t count) {
 }
 
 template <typename Mode>
+inline void copyRow(uint8_t* to, const uint8_t* from, size_t count) {
+    if (count > 2 * kBlock) {
+        copyLongRow<Mode>(to, from, count);
+    } else if (count >= kBlock) {
+        combineTwo<Mode, Block>(to, from, count);
+    } else if (count >= 8) {
+        combineTwo<Mode, uint64_t>(to, from, count);
+    } else if (count >= 4) {
+        combineTwo<Mode, uint32_t>(to, from, count);
+    } else if (count >= 2) {
+        combineTwo<Mode, uint16_t>(to, from, count);
+    } else {
+        *to = Mode::combine(*to, *from);
+    }
+}
+
+/// Whether all rows lie one behind the other on both sides, so that they are one long row.
+bool areOneRow(const Transfer& transfer, size_t length) {
+    return transfer.toStride == transfer.fromStride &&
+           static_cast<ptrdiff_t>(length) == std::abs(transfer.toStride);
+}
+
+template <typename Mode>
 void copyRows(const Transfer& transfer, size_t length) {
     uint8_t* to = transfer.to;
     const uint8_t* from = transfer.from;
-    if (transfer.toStride == transfer.fromStride &&
-        static_cast<ptrdiff_t>(length) == transfer.toStride) {
-        copyRow<Mode>(to, from, length * static_cast<size_t>(transfer.height));
+    if (areOneRow(transfer, length)) {
+        const ptrdiff_t first =
+            transfer.toStride < 0 ? (transfer.height - 1) * transfer.toStride : 0;
+        copyRow<Mode>(to + first, from + first, length * static_cast<size_t>(transfer.height));
         return;
     }
     for (int32_t row = 0;;) {
