@@ -4,6 +4,7 @@
 #include "raster/kernel/transfer.h"
 
 #include <algorithm>
+#include <bit>
 #include <cstdint>
 
 namespace quarlo::kernel {
@@ -15,6 +16,7 @@ struct AnyChannel {
     int down;
     int up;
     uint32_t lowest; ///< lowest bit of the mask so moved
+    int below;       ///< how many bits are below that
     int placeDown;
     int placeUp;
     uint32_t place; ///< destination mask
@@ -28,11 +30,13 @@ struct AnyChannel {
         placeUp = std::max(target, 0);
         const uint32_t moved = shiftBy(from, -source) & 0xFF;
         lowest = moved & (~moved + 1);
+        below = lowest == 0 ? 0 : std::countr_zero(lowest);
     }
 
     uint32_t operator()(uint32_t value) const {
         uint32_t channel = (value & mask) >> down << up;
-        channel |= (channel & lowest) != 0 ? lowest - 1 : 0;
+        const uint32_t copied = channel & lowest;
+        channel |= copied - (copied >> below);
         return channel >> placeDown << placeUp & place;
     }
 };

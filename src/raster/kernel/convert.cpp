@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <numeric>
 
 namespace quarlo::kernel {
 namespace {
@@ -22,12 +23,17 @@ struct Converter {
     Converter(const PixelLayout& from, const PixelLayout& to) : any(from, to), plain(from, to) {
         if (from.palette != nullptr) {
             const auto count = static_cast<int32_t>(std::min<uint32_t>(from.paletteCount, 256));
-            std::transform(from.palette, from.palette + count, values, any);
+            std::copy_n(from.palette, count, values);
             std::fill(values + count, values + 256, 0U);
         } else if (from.bitsPerPixel == 8) {
-            for (uint32_t value = 0; value < 256; ++value) {
-                values[value] = any(value);
-            }
+            std::iota(values, values + 256, 0U);
+        } else {
+            return;
+        }
+        const AnyMove move = any;
+        const uint32_t format = UINT32_MAX >> (32 - to.bitsPerPixel);
+        for (uint32_t& value : values) {
+            value = move(value) & format;
         }
     }
 };
@@ -35,18 +41,36 @@ struct Converter {
 using ConvertRow = void (*)(uint8_t* to, const uint8_t* from, int32_t count,
                             const Converter& converter);
 
-/// A source's first byte chooses the pixel.
+/// Writes four pixels as whole words; `values` hold no bits but the format's.
+template <typename To>
+void putFour(uint8_t* to, const uint32_t values[4]) {
+    if constexpr (std::endian::native == std::endian::big || To::kBytes == 1) {
+        for (int pixel = 0; pixel < 4; ++pixel) {
+            putPixel<To, Copy>(to + pixel * To::kBytes, values[pixel]);
+        }
+    } else if constexpr (To::kBytes == 2) {
+        storeWord(to, values[0] | values[1] << 16);
+        storeWord(to + 4, values[2] | values[3] << 16);
+    } else {
+        storeWord(to, values[0] | values[1] << 24);
+        storeWord(to + 4, values[1] >> 8 | values[2] << 16);
+        storeWord(to + 8, values[2] >> 16 | values[3] << 8);
+    }
+}
+
+/// A source's first byte chooses the pixel. Four pixels are looked up before they are stored: the
+/// processor cannot know that a store leaves the values alone.
 template <typename From, typename To>
 void lookUpRow(uint8_t* to, const uint8_t* from, int32_t count, const Converter& converter) {
-    int32_t at = 0;
-    // A whole word is one store where three bytes are two; its fourth byte is the next pixel's.
-    if constexpr (To::kBytes == 3 && std::endian::native == std::endian::little) {
-        for (; at < count - 1; ++at) {
-            storeWord(to + at * To::kBytes, converter.values[from[at * From::kBytes]]);
-        }
+    const auto valueAt = [&](int32_t pixel) {
+        return converter.values[from[pixel * From::kBytes]];
+    };
+    for (; count >= 4; count -= 4, to += 4 * To::kBytes, from += 4 * From::kBytes) {
+        const uint32_t values[] = {valueAt(0), valueAt(1), valueAt(2), valueAt(3)};
+        putFour<To>(to, values);
     }
-    for (; at < count; ++at) {
-        putPixel<To, Copy>(to + at * To::kBytes, converter.values[from[at * From::kBytes]]);
+    for (; count > 0; --count, to += To::kBytes, from += From::kBytes) {
+        putPixel<To, Copy>(to, valueAt(0));
     }
 }
 
