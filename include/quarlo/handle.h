@@ -161,7 +161,7 @@ QUARLO_API GDrawHandle* GDEndDraw(GDrawHandle* handle);
  * Sets the display surface of a handle, not its drawing target. The previous one is not released.
  *
  * @param number number of the device surface, given to the platform
- * @return 1; 0 when the platform has no such surface
+ * @return 1; 0 for a null handle, or when the platform has no such surface
  */
 QUARLO_API int32_t GDSetDisplay(GDrawHandle* handle, int16_t number);
 

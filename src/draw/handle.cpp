@@ -123,6 +123,9 @@ int32_t GDSetVram(GDrawHandle* handle, int16_t id, GVram* surface) {
 }
 
 int32_t GDSetDisplay(GDrawHandle* handle, int16_t number) {
+    if (handle == nullptr) {
+        return 0;
+    }
     GVram* const surface = GetDeviceSurface::checked(handle, number);
     if (surface == nullptr) {
         return 0;
