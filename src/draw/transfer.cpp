@@ -18,6 +18,9 @@ struct Pair {
     GRect source;
     GRect destination;
 
+    /// False when one of them wrapped around at 16 bits.
+    bool isValid() const { return quarlo::isValid(source) && quarlo::isValid(destination); }
+
     bool cutDestination(const GRect& limit) { return cut(destination, source, limit); }
     bool cutSource(const GRect& limit) { return cut(source, destination, limit); }
 
@@ -54,14 +57,18 @@ bool isSameFormat(const GVram& a, const GVram& b) {
            a.greenMask == b.greenMask && a.blueMask == b.blueMask;
 }
 
+/// What a palette surface without a palette is read by: every index lies past its end.
+constexpr uint32_t kEmptyPalette[1] = {};
+
 kernel::PixelLayout layoutOf(const GVram& surface) {
-    const bool indexed = surface.colorType == G_COLOR_PALETTE;
-    return {surface.bitsPerPixel,
-            surface.redMask,
-            surface.greenMask,
-            surface.blueMask,
-            indexed ? surface.palette : nullptr,
-            indexed ? surface.paletteCount : uint32_t{0}};
+    kernel::PixelLayout layout{surface.bitsPerPixel, surface.redMask, surface.greenMask,
+                               surface.blueMask,     nullptr,         0};
+    if (surface.colorType == G_COLOR_PALETTE) {
+        const bool present = surface.palette != nullptr;
+        layout.palette = present ? surface.palette : kEmptyPalette;
+        layout.paletteCount = present ? surface.paletteCount : 0;
+    }
+    return layout;
 }
 
 void transferPixels(const GVram& source, const GVram& destination, const Pair& pair, int32_t mode) {
@@ -104,7 +111,8 @@ void GDBitBlt(GDrawHandle* handle, const GVram* source, int16_t sourceX, int16_t
     }
     Pair pair = mappedPair(*handle, anchored({sourceX, sourceY, 0, 0}, width, height),
                            anchored({destinationX, destinationY, 0, 0}, width, height));
-    if (!pair.cutDestination(drawableOf(*destination)) || !pair.cutSource(source->bounds)) {
+    if (!pair.isValid() || !pair.cutDestination(drawableOf(*destination)) ||
+        !pair.cutSource(source->bounds)) {
         return;
     }
     if (source->colorType != G_COLOR_PALETTE && destination->colorType == G_COLOR_PALETTE) {
