@@ -64,17 +64,14 @@ void fillRows(const Canvas& canvas, const GRect& rect, uint32_t pixel) {
 template <typename Fill>
 void fillLines(const GRect& visible, const GRect& whole, bool down, int32_t first, int32_t last,
                const Fill& fill) {
-    GRect band = visible;
-    if (down) {
-        band.top = low16(std::max<int32_t>(visible.top, whole.top + first));
-        band.bottom = low16(std::min<int32_t>(visible.bottom, whole.top + last));
-    } else {
-        band.left = low16(std::max<int32_t>(visible.left, whole.left + first));
-        band.right = low16(std::min<int32_t>(visible.right, whole.left + last));
+    const int32_t start = down ? whole.top : whole.left;
+    const int32_t from = std::max<int32_t>(start + first, down ? visible.top : visible.left);
+    const int32_t to = std::min<int32_t>(start + last, down ? visible.bottom : visible.right);
+    if (from > to) {
+        return;
     }
-    if (isValid(band)) {
-        fill(band);
-    }
+    fill(down ? GRect{visible.left, low16(from), visible.right, low16(to)}
+              : GRect{low16(from), visible.top, low16(to), visible.bottom});
 }
 
 } // namespace
