@@ -218,7 +218,10 @@ QUARLO_API void GDSetPenJoin(GDrawHandle* handle, int32_t join);
 /** Sets the pen size in pixels; a value below 1 counts as 1. */
 QUARLO_API void GDSetPenSize(GDrawHandle* handle, int16_t width, int16_t height);
 
-/** Sets the drawing mode, 0 to 3 (low 16 bits, unchecked). A wild mode draws nothing. */
+/**
+ * Sets the drawing mode, 0 to 3 (low 16 bits, unchecked). On a memory surface a wild mode draws
+ * nothing, or in another pixel format: the operations are those of entry mode + 4 x bits a pixel.
+ */
 QUARLO_API void GDSetDrawingMode(GDrawHandle* handle, int32_t mode);
 
 /** Sets the text mode (low 16 bits, unchecked): #G_TEXT_TRANSPARENT or 0. */

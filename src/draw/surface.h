@@ -28,10 +28,10 @@ inline GRect drawableOf(const GVram& surface) {
     return surface.drawable != nullptr ? *surface.drawable : kNowhere;
 }
 
-/// The pixels that a surface's memory holds, whatever its clip rectangle and bounds say.
-inline GRect memoryOf(const GVram& surface) {
+/// The pixels of a size that a surface's memory holds in its rows and columns, whatever its clip
+/// rectangle and bounds say.
+inline GRect memoryOf(const GVram& surface, int32_t bytesPerPixel) {
     int32_t width = surface.width;
-    const int32_t bytesPerPixel = surface.bitsPerPixel >> 3;
     if (width * bytesPerPixel > surface.bytesPerLine) {
         width = bytesPerPixel > 0 ? surface.bytesPerLine / bytesPerPixel : 0;
     }
@@ -39,6 +39,10 @@ inline GRect memoryOf(const GVram& surface) {
         return kNowhere;
     }
     return {0, 0, low16(width - 1), low16(surface.height - 1)};
+}
+
+inline GRect memoryOf(const GVram& surface) {
+    return memoryOf(surface, surface.bitsPerPixel >> 3);
 }
 
 /// The address of a pixel in the surface's memory.

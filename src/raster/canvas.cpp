@@ -5,21 +5,16 @@
 namespace quarlo {
 namespace {
 
-/// The clip rectangle, confined to pixel memory where there is any. An entry of another format than
-/// the surface's draws nothing: its addresses would lie outside.
+/// The clip rectangle, confined to pixel memory where there is any. A wild drawing mode may have
+/// selected the entry of another format: then it is the entry's pixels that must fit.
 GRect areaOf(const GVram& surface, const kernel::Kernels* kernels) {
     GRect area = drawableOf(surface);
-    if (!isValid(area)) {
-        return kNowhere;
+    if (surface.pixels == nullptr) {
+        return kernels == nullptr && isValid(area) ? area : kNowhere;
     }
-    if (kernels != nullptr &&
-        (surface.pixels == nullptr || surface.bitsPerPixel != kernels->bytesPerPixel * 8)) {
-        return kNowhere;
-    }
-    if (surface.pixels != nullptr && !clipTo(area, memoryOf(surface))) {
-        return kNowhere;
-    }
-    return area;
+    const GRect memory =
+        kernels != nullptr ? memoryOf(surface, kernels->bytesPerPixel) : memoryOf(surface);
+    return clipTo(area, memory) ? area : kNowhere;
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 
 #include <quarlo/handle.h>
 
+#include <cstddef>
 #include <cstdint>
 
 namespace quarlo {
@@ -21,7 +22,11 @@ struct Canvas {
 
     explicit Canvas(GDrawHandle& handle);
 
-    uint8_t* addressOf(int32_t x, int32_t y) const { return quarlo::addressOf(surface, x, y); }
+    /// Where the kernels find a pixel. Only with kernels.
+    uint8_t* addressOf(int32_t x, int32_t y) const {
+        return surface.pixels + y * ptrdiff_t{surface.bytesPerLine} +
+               x * ptrdiff_t{kernels->bytesPerPixel};
+    }
 
     /// Writes one pixel that lies in the area.
     void setPixel(int16_t x, int16_t y, uint32_t pixel, int32_t mode) const;
