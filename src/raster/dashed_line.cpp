@@ -117,7 +117,7 @@ bool drawDashedLine(const Canvas& canvas, const GLine& line) {
     const auto phase = static_cast<uint32_t>(handle.dashPhase & (kPhases - 1)) << 16;
     const CrossSection section(handle, course.steep());
     const StepRange steps = course.stepsWithin(canvas.area, section.before, section.behind);
-    if (isValid(canvas.area) && !steps.empty() && handle.penPixel != G_NO_COLOR) {
+    if (isValid(canvas.area) && !steps.empty()) {
         const uint32_t skipped = static_cast<uint32_t>(steps.first) * step;
         drawVisible(canvas, course, steps, section, {pattern, phase + skipped, step});
     }

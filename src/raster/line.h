@@ -9,7 +9,8 @@
 
 namespace quarlo {
 
-/// Draws a line with all of the handle's pen: colour, size, join and dash.
+/// Draws a line with all of the handle's pen: colour, size, join and dash. The colour must not
+/// be -1.
 ///
 /// @return 1 when something was drawn or walked, 0 when nothing of the line is visible
 int32_t GDRasterLine(const Canvas& canvas, const GLine& line);

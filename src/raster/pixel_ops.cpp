@@ -28,17 +28,27 @@ uint8_t* pixelAddress(const GVram* surface, int16_t x, int16_t y) {
 }
 
 template <typename Format, typename Mode>
-int32_t nextPixel() {
+void continueCell() {
     PixelCell& cell = cellOf<Format>();
     kernel::putPixel<Format, Mode>(cell.cursor, cell.color);
     cell.cursor += Format::kBytes;
+}
+
+/// Draws nothing where nothing was drawn before.
+template <typename Format, typename Mode>
+int32_t nextPixel() {
+    if (cellOf<Format>().cursor == nullptr) {
+        return 0;
+    }
+    continueCell<Format, Mode>();
     return 1;
 }
 
 template <typename Format, typename Mode>
 int32_t setPixel(GDrawHandle*, GVram* surface, int16_t x, int16_t y, uint32_t pixel, int32_t) {
     cellOf<Format>() = {pixel, pixelAddress<Format>(surface, x, y)};
-    return nextPixel<Format, Mode>();
+    continueCell<Format, Mode>();
+    return 1;
 }
 
 template <typename Format, typename Mode>

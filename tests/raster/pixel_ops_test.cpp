@@ -223,6 +223,17 @@ TEST_F(PixelOps, NextPixelOfTwentyFourBitsOrAndXorCombine) {
     }
 }
 
+TEST_F(PixelOps, NextPixelBeforeAnyOtherDrawsNothing) {
+    for (const int16_t bits : kDepths) {
+        Drawing drawing(2, 1, bits);
+        pixelCells[bits / 8 - 1] = {};
+        for (int mode = 0; mode < 4; ++mode) {
+            GDSetDrawingMode(drawing, mode);
+            EXPECT_EQ(drawing->pixelOps->nextPixel(), 0);
+        }
+    }
+}
+
 TEST_F(PixelOps, ColourAndCursorBelongToTheFormat) {
     Drawing narrow(4, 1, 8);
     Drawing middle(4, 1, 16);
@@ -303,6 +314,19 @@ TEST_F(PixelOps, TheModeIsTakenFromSixteenBits) {
     const GPixelOps* const entry = drawing->pixelOps;
     GDSetDrawingMode(drawing, G_MODE_OR);
     EXPECT_EQ(drawing->pixelOps, entry);
+}
+
+TEST_F(PixelOps, SettingAModeConvertsTheColoursAnewInColourMode) {
+    Drawing drawing(2, 2, 16);
+    drawing.surface()->redMask = 0xF800;
+    GDSetDrawingMode(drawing, G_MODE_OR);
+    GDSetPenColor(drawing, 0xFF0000);
+    EXPECT_EQ(drawing->penPixel, 0xFF0000U);
+    GDSetColorMode(drawing, 1, 0xF800, 0x07E0, 0x001F);
+    EXPECT_EQ(drawing->penPixel, 0xF800U);
+    drawing.surface()->redMask = 0xC000;
+    GDSetDrawingMode(drawing, G_MODE_COPY);
+    EXPECT_EQ(drawing->penPixel, 0xC000U);
 }
 
 TEST_F(PixelOps, TheDeviceEntryIsFilledFromThePlatform) {
