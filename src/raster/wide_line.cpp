@@ -3,9 +3,10 @@
 #include "geometry/geometry.h"
 #include "raster/polygon.h"
 
+#include <quarlo/draw.h>
+
 #include <algorithm>
 #include <cmath>
-#include <limits>
 
 namespace quarlo {
 namespace {
@@ -13,8 +14,9 @@ namespace {
 /// An all-set pattern: joins are patterned fills in one colour.
 constexpr int32_t kJoinPattern = 1;
 
+/// The lowest coordinate is left out: as a polygon's it would mark a table edge.
 int16_t saturated(int64_t value) {
-    return static_cast<int16_t>(std::clamp<int64_t>(value, INT16_MIN, INT16_MAX));
+    return static_cast<int16_t>(std::clamp<int64_t>(value, G_TABLE_EDGE + 1, INT16_MAX));
 }
 
 /// The corners of the pen's quadrilateral, seen along the line: left and right at its start, right
