@@ -1,181 +1,140 @@
-// Conversion between pixel layouts. Each pair of formats has a row converter that writes pixels in
-// the destination's format; drawing modes other than copy convert a short run at a time and then
-// combine its bytes.
-#include "raster/kernel/any_move.h"
-#include "raster/kernel/convert_lanes.h"
-#include "raster/kernel/mode.h"
+// Conversion by tables of what bytes become: two loads and an OR for a pixel of 16 bits.
+#include "raster/kernel/convert.h"
 
-#include <algorithm>
-#include <bit>
-#include <numeric>
+#include "raster/kernel/format.h"
+#include "raster/kernel/mode.h"
 
 namespace quarlo::kernel {
 namespace {
 
-constexpr int32_t kRun = 64;
+/// Reads pixels of channels: each is the OR of what its bytes become.
+template <int Bytes>
+class DirectReader {
+  public:
+    static constexpr int kBytes = Bytes;
 
-/// What row converters work with.
-struct Converter {
-    AnyMove any;
-    PixelMove plain;
-    uint32_t values[256]; ///< the destination's pixel values by source byte, where that is all
-
-    Converter(const PixelLayout& from, const PixelLayout& to) : any(from, to), plain(from, to) {
-        if (from.palette != nullptr) {
-            const auto count = static_cast<int32_t>(std::min<uint32_t>(from.paletteCount, 256));
-            std::copy_n(from.palette, count, values);
-            std::fill(values + count, values + 256, 0U);
-        } else if (from.bitsPerPixel == 8) {
-            std::iota(values, values + 256, 0U);
-        } else {
-            return;
-        }
-        const AnyMove move = any;
-        const uint32_t format = UINT32_MAX >> (32 - to.bitsPerPixel);
-        for (uint32_t& value : values) {
-            value = move(value) & format;
+    DirectReader(const PixelLayout&, const PixelMove& move) {
+        const MovedBits moved(move);
+        for (int byte = 0; byte < Bytes; ++byte) {
+            tabulate(moved.bits + 8 * byte, tables_[byte]);
         }
     }
+
+    uint32_t operator()(const uint8_t* from) const {
+        uint32_t pixel = tables_[0][from[0]];
+        for (int byte = 1; byte < Bytes; ++byte) {
+            pixel |= tables_[byte][from[byte]];
+        }
+        return pixel;
+    }
+
+  private:
+    /// Each half of a table is the half before with one bit more.
+    static void tabulate(const uint32_t bits[8], uint32_t table[256]) {
+        table[0] = 0;
+        for (int bit = 0; bit < 8; ++bit) {
+            const int half = 1 << bit;
+            for (int value = 0; value < half; ++value) {
+                table[half + value] = table[value] | bits[bit];
+            }
+        }
+    }
+
+    uint32_t tables_[Bytes][256];
 };
 
-using ConvertRow = void (*)(uint8_t* to, const uint8_t* from, int32_t count,
-                            const Converter& converter);
+/// Reads pixels whose first byte names a palette entry.
+template <int Bytes>
+class PaletteReader {
+  public:
+    static constexpr int kBytes = Bytes;
 
-/// Writes four pixels as whole words; `values` hold no bits but the format's.
-template <typename To>
-void putFour(uint8_t* to, const uint32_t values[4]) {
-    if constexpr (std::endian::native == std::endian::big || To::kBytes == 1) {
-        for (int pixel = 0; pixel < 4; ++pixel) {
-            putPixel<To, Copy>(to + pixel * To::kBytes, values[pixel]);
-        }
-    } else if constexpr (To::kBytes == 2) {
-        storeWord(to, values[0] | values[1] << 16);
-        storeWord(to + 4, values[2] | values[3] << 16);
-    } else {
-        storeWord(to, values[0] | values[1] << 24);
-        storeWord(to + 4, values[1] >> 8 | values[2] << 16);
-        storeWord(to + 8, values[2] >> 16 | values[3] << 8);
-    }
-}
+    PaletteReader(const PixelLayout& from, const PixelMove& move) : palette_(from, move) {}
 
-/// A source's first byte chooses the pixel. Four pixels are looked up before they are stored: the
-/// processor cannot know that a store leaves the values alone.
-template <typename From, typename To>
-void lookUpRow(uint8_t* to, const uint8_t* from, int32_t count, const Converter& converter) {
-    const auto valueAt = [&](int32_t pixel) {
-        return converter.values[from[pixel * From::kBytes]];
-    };
-    for (; count >= 4; count -= 4, to += 4 * To::kBytes, from += 4 * From::kBytes) {
-        const uint32_t values[] = {valueAt(0), valueAt(1), valueAt(2), valueAt(3)};
-        putFour<To>(to, values);
-    }
-    for (; count > 0; --count, to += To::kBytes, from += From::kBytes) {
-        putPixel<To, Copy>(to, valueAt(0));
-    }
-}
+    uint32_t operator()(const uint8_t* from) const { return palette_.values[from[0]]; }
 
-template <typename From, typename To>
-void moveRow(uint8_t* to, const uint8_t* from, int32_t count, const Converter& converter) {
-    const AnyMove move = converter.any;
-    for (; count > 0; --count, to += To::kBytes, from += From::kBytes) {
-        putPixel<To, Copy>(to, move(loadPixel<From>(from)));
-    }
-}
-
-template <typename From, typename To, bool kWidens>
-void moveRowOfLanes(uint8_t* to, const uint8_t* from, int32_t count, const Converter& converter) {
-    const PixelMove move = converter.plain;
-    for (; count >= kLanes; count -= kLanes) {
-        convertEight<From, To, kWidens>(to, from, move);
-        to += kLanes * To::kBytes;
-        from += kLanes * From::kBytes;
-    }
-    if (count > 0) {
-        moveRow<From, To>(to, from, count, converter);
-    }
-}
-
-bool fitsLanes(const PixelLayout& layout) {
-    if (layout.bitsPerPixel == 24) {
-        return isOfBytes(layout);
-    }
-    return (layout.red | layout.green | layout.blue) <= 0xFFFF && isPlain(layout.red) &&
-           isPlain(layout.green) && isPlain(layout.blue);
-}
-
-template <typename From, typename To>
-ConvertRow rowFor(const PixelLayout& from, const PixelLayout& to, const Converter& converter) {
-    if (From::kBytes == 1 || from.palette != nullptr) {
-        return lookUpRow<From, To>;
-    }
-    if constexpr (From::kBytes > 1 && To::kBytes > 1 && From::kBytes + To::kBytes < 6 &&
-                  std::endian::native == std::endian::little) {
-        if (fitsLanes(from) && fitsLanes(to)) {
-            return converter.plain.widens() ? moveRowOfLanes<From, To, true>
-                                            : moveRowOfLanes<From, To, false>;
-        }
-    }
-    return moveRow<From, To>;
-}
-
-template <typename From>
-ConvertRow rowFrom(const PixelLayout& from, const PixelLayout& to, const Converter& converter) {
-    switch (to.bitsPerPixel) {
-    case 8:
-        return rowFor<From, Format8>(from, to, converter);
-    case 16:
-        return rowFor<From, Format16>(from, to, converter);
-    default:
-        return rowFor<From, Format24>(from, to, converter);
-    }
-}
-
-ConvertRow rowFor(const PixelLayout& from, const PixelLayout& to, const Converter& converter) {
-    switch (from.bitsPerPixel) {
-    case 8:
-        return rowFrom<Format8>(from, to, converter);
-    case 16:
-        return rowFrom<Format16>(from, to, converter);
-    default:
-        return rowFrom<Format24>(from, to, converter);
-    }
-}
+  private:
+    MovedPalette palette_;
+};
 
 template <typename Mode>
-void convertRows(const Transfer& transfer, int32_t fromBytes, int32_t toBytes, ConvertRow row,
-                 const Converter& converter) {
-    uint8_t run[kRun * 3];
-    for (int32_t y = 0; y < transfer.height; ++y) {
-        uint8_t* to = transfer.to + y * transfer.toStride;
-        const uint8_t* from = transfer.from + y * transfer.fromStride;
-        if constexpr (!Mode::kReads) {
-            row(to, from, transfer.width, converter);
-            continue;
-        }
-        for (int32_t left = transfer.width; left > 0; left -= kRun) {
-            const int32_t count = std::min(left, kRun);
-            row(run, from, count, converter);
-            for (int32_t byte = 0; byte < count * toBytes; ++byte) {
-                to[byte] = Mode::combine(to[byte], run[byte]);
-            }
-            to += count * toBytes;
-            from += count * fromBytes;
-        }
+void putWord(uint8_t* to, uint32_t word) {
+    const auto old = Mode::kReads ? loadLittle<uint32_t>(to) : 0U;
+    storeLittle(to, Mode::combine(old, word));
+}
+
+/// Combines four pixels into memory as the whole words that they fill.
+template <typename Format, typename Mode>
+void putFour(uint8_t* to, uint32_t first, uint32_t second, uint32_t third, uint32_t fourth) {
+    if constexpr (Format::kBytes == 1) {
+        putWord<Mode>(to, first | second << 8 | third << 16 | fourth << 24);
+    } else if constexpr (Format::kBytes == 2) {
+        putWord<Mode>(to, first | second << 16);
+        putWord<Mode>(to + 4, third | fourth << 16);
+    } else {
+        putWord<Mode>(to, first | second << 24);
+        putWord<Mode>(to + 4, second >> 8 | third << 16);
+        putWord<Mode>(to + 8, third >> 16 | fourth << 8);
     }
 }
+
+/// Not inlined, so that the tables are addressed by a register of their own: through the stack
+/// pointer most conversions took twice the time.
+template <typename Reader, typename Format, typename Mode>
+[[gnu::noinline]] void convertRow(uint8_t* to, const uint8_t* from, int32_t count,
+                                  const Reader& read) {
+    constexpr int kBytes = Reader::kBytes;
+    for (; count >= 4; count -= 4) {
+        putFour<Format, Mode>(to, read(from), read(from + kBytes), read(from + 2 * kBytes),
+                              read(from + 3 * kBytes));
+        from += 4 * kBytes;
+        to += 4 * Format::kBytes;
+    }
+    for (; count > 0; --count) {
+        putPixel<Format, Mode>(to, read(from));
+        from += kBytes;
+        to += Format::kBytes;
+    }
+}
+
+template <typename Reader, typename Format, typename Mode>
+void convert(const Transfer& transfer, const PixelLayout& from, const PixelMove& move) {
+    const Reader read(from, move);
+    for (int32_t row = 0; row < transfer.height; ++row) {
+        convertRow<Reader, Format, Mode>(transfer.to + row * transfer.toStride,
+                                         transfer.from + row * transfer.fromStride, transfer.width,
+                                         read);
+    }
+}
+
+template <typename Reader, typename Format>
+constexpr ConvertPixels kModes[] = {convert<Reader, Format, Copy>, convert<Reader, Format, And>,
+                                    convert<Reader, Format, Or>, convert<Reader, Format, Xor>};
+
+template <typename Reader>
+constexpr const ConvertPixels* kFormats[] = {kModes<Reader, Format8>, kModes<Reader, Format16>,
+                                             kModes<Reader, Format24>};
+
+template <template <int> typename Reader>
+constexpr const ConvertPixels* const* kReaders[] = {kFormats<Reader<1>>, kFormats<Reader<2>>,
+                                                    kFormats<Reader<3>>};
 
 } // namespace
 
+ConvertPixels portableConversion(const PixelLayout& from, const PixelLayout& to, int32_t mode) {
+    const auto* const readers =
+        from.palette == nullptr ? kReaders<DirectReader> : kReaders<PaletteReader>;
+    return readers[from.bitsPerPixel / 8 - 1][to.bitsPerPixel / 8 - 1][mode];
+}
+
 void convertRect(const Transfer& transfer, const PixelLayout& from, const PixelLayout& to,
                  int32_t mode) {
-    constexpr decltype(&convertRows<Copy>) kModes[] = {convertRows<Copy>, convertRows<And>,
-                                                       convertRows<Or>, convertRows<Xor>};
     if (mode < 0 || mode > 3) {
         return;
     }
-    const Converter converter(from, to);
-    kModes[mode](transfer, from.bitsPerPixel / 8, to.bitsPerPixel / 8, rowFor(from, to, converter),
-                 converter);
+    const ConvertPixels vectors = vectorConversion(from, to, mode);
+    const ConvertPixels convert = vectors != nullptr ? vectors : portableConversion(from, to, mode);
+    convert(transfer, from, PixelMove(from, to));
 }
 
 } // namespace quarlo::kernel

@@ -18,22 +18,30 @@ using Format8 = Format<1>;
 using Format16 = Format<2>;
 using Format24 = Format<3>;
 
+/// Swaps the bytes of 2 or 4 where the machine has the high one first.
+template <typename Word>
+constexpr Word inOrder(Word word) {
+    if constexpr (std::endian::native == std::endian::little || sizeof(Word) == 1) {
+        return word;
+    } else if constexpr (sizeof(Word) == 2) {
+        return __builtin_bswap16(word);
+    } else {
+        static_assert(sizeof(Word) == 4);
+        return __builtin_bswap32(word);
+    }
+}
+
 /// The unsigned integer of exactly `Bytes` bytes that stands low byte first in memory.
 template <typename Word>
 inline Word loadLittle(const uint8_t* at) {
     Word word;
     std::memcpy(&word, at, sizeof word);
-    if constexpr (std::endian::native == std::endian::big && sizeof(Word) == 2) {
-        word = static_cast<Word>(word << 8 | word >> 8);
-    }
-    return word;
+    return inOrder(word);
 }
 
 template <typename Word>
 inline void storeLittle(uint8_t* at, Word word) {
-    if constexpr (std::endian::native == std::endian::big && sizeof(Word) == 2) {
-        word = static_cast<Word>(word << 8 | word >> 8);
-    }
+    word = inOrder(word);
     std::memcpy(at, &word, sizeof word);
 }
 

@@ -1,5 +1,5 @@
 // Rows of pixels converted from one layout to another.
-#include "raster/kernel/transfer.h"
+#include "raster/kernel/convert.h"
 
 #include "support/guarded_surface.h"
 #include "support/random_calls.h"
@@ -121,25 +121,42 @@ class ConvertRect : public testing::Test {
                       [&] { return static_cast<uint32_t>(random.bits()); });
     }
 
-    /// Converts one row of random pixels between guarded blocks and compares it with the model.
+    /// Converts one row of random pixels between guarded blocks, in every way that there is on this
+    /// processor, and compares it with the model.
     void check(const Named& source, const Named& target, int width, int mode, Against side) {
         const PixelLayout from = layoutOf(source, palette);
-        PixelLayout to = layoutOf(target, palette);
-        to.palette = nullptr;
+        const PixelLayout to = targetOf(target);
         const auto pixels = static_cast<size_t>(width);
         GuardedMemory input(pixels * static_cast<size_t>(from.bitsPerPixel / 8), side);
         GuardedMemory output(pixels * static_cast<size_t>(to.bitsPerPixel / 8), side);
         const std::vector<uint8_t> read = randomBytes(random, input.size());
         const std::vector<uint8_t> fresh = randomBytes(random, output.size());
+        const std::vector<uint8_t> expected = modelled(fresh, read.data(), from, to, mode);
         std::copy(read.begin(), read.end(), input.data());
-        std::copy(fresh.begin(), fresh.end(), output.data());
-        convertRect({output.data(), 12345, input.data(), -12345, width, 1}, from, to, mode);
-        ASSERT_EQ(std::vector<uint8_t>(output.data(), output.data() + output.size()),
-                  modelled(fresh, read.data(), from, to, mode))
-            << width << " pixels from " << source.name << " to " << target.name << ", mode "
-            << mode;
-        ASSERT_TRUE(output.intact());
-        ASSERT_TRUE(std::equal(read.begin(), read.end(), input.data()));
+        for (const ConvertPixels convert : waysOf(from, to, mode)) {
+            std::copy(fresh.begin(), fresh.end(), output.data());
+            convert({output.data(), 12345, input.data(), -12345, width, 1}, from,
+                    PixelMove(from, to));
+            ASSERT_EQ(std::vector<uint8_t>(output.data(), output.data() + output.size()), expected)
+                << width << " pixels from " << source.name << " to " << target.name << ", mode "
+                << mode << (convert == portableConversion(from, to, mode) ? ", portable" : "");
+            ASSERT_TRUE(output.intact());
+            ASSERT_TRUE(std::equal(read.begin(), read.end(), input.data()));
+        }
+    }
+
+    static std::vector<ConvertPixels> waysOf(const PixelLayout& from, const PixelLayout& to,
+                                             int mode) {
+        std::vector<ConvertPixels> ways = {portableConversion(from, to, mode)};
+        if (const ConvertPixels vectors = vectorConversion(from, to, mode)) {
+            ways.push_back(vectors);
+        }
+        return ways;
+    }
+
+    /// A layout to write, which has no palette.
+    static PixelLayout targetOf(const Named& named) {
+        return layoutOf({named.name, named.bits, named.red, named.green, named.blue}, {});
     }
 
     Random random{testSeed()};
@@ -191,12 +208,13 @@ TEST_F(ConvertRect, EveryValueOf16Bits) {
         }
         for (const Named& target : kLayouts) {
             const PixelLayout from = layoutOf(source, palette);
-            PixelLayout to = layoutOf(target, palette);
-            to.palette = nullptr;
+            const PixelLayout to = targetOf(target);
             std::vector<uint8_t> output(65536 * static_cast<size_t>(to.bitsPerPixel / 8));
             const std::vector<uint8_t> expected = modelled(output, read.data(), from, to, 0);
-            convertRect({output.data(), 0, read.data(), 0, 65536, 1}, from, to, 0);
-            ASSERT_EQ(output, expected) << "from " << source.name << " to " << target.name;
+            for (const ConvertPixels convert : waysOf(from, to, 0)) {
+                convert({output.data(), 0, read.data(), 0, 65536, 1}, from, PixelMove(from, to));
+                ASSERT_EQ(output, expected) << "from " << source.name << " to " << target.name;
+            }
         }
     }
 }
@@ -226,34 +244,33 @@ TEST_F(ConvertRect, RandomMasks) {
 }
 
 TEST_F(ConvertRect, RowsAreApartByTheirStrides) {
-    constexpr int kWidth = 37;
+    constexpr int kWidth = 137;
     constexpr int kHeight = 5;
     constexpr int kToStride = kWidth * 3 + 4;
     constexpr int kFromStride = kWidth * 2 + 7;
+    constexpr int kLast = kHeight - 1;
     const PixelLayout from = layoutOf(kLayouts[1], palette);
-    const PixelLayout to = layoutOf(kLayouts[10], palette);
-    for (const bool upwards : {false, true}) {
-        const std::vector<uint8_t> read = randomBytes(random, kFromStride * kHeight);
-        std::vector<uint8_t> output = randomBytes(random, kToStride * kHeight);
-        std::vector<uint8_t> expected = output;
-        for (int row = 0; row < kHeight; ++row) {
-            const auto at = expected.begin() + row * kToStride;
-            const std::vector<uint8_t> before(at, at + kWidth * 3);
-            const std::vector<uint8_t> after =
-                modelled(before, read.data() + row * kFromStride, from, to, 2);
-            std::copy(after.begin(), after.end(), at);
-        }
-        Transfer transfer{output.data(), kToStride, read.data(), kFromStride, kWidth, kHeight};
-        if (upwards) {
-            transfer = {output.data() + (kHeight - 1) * kToStride,
-                        -kToStride,
-                        read.data() + (kHeight - 1) * kFromStride,
-                        -kFromStride,
-                        kWidth,
-                        kHeight};
-        }
-        convertRect(transfer, from, to, 2);
-        EXPECT_EQ(output, expected);
+    const PixelLayout to = targetOf(kLayouts[10]);
+    const std::vector<uint8_t> read = randomBytes(random, kFromStride * kHeight);
+    const std::vector<uint8_t> fresh = randomBytes(random, kToStride * kHeight);
+    std::vector<uint8_t> expected = fresh;
+    for (int row = 0; row < kHeight; ++row) {
+        const auto at = expected.begin() + row * kToStride;
+        const std::vector<uint8_t> before(at, at + kWidth * 3);
+        const std::vector<uint8_t> after =
+            modelled(before, read.data() + row * kFromStride, from, to, 2);
+        std::copy(after.begin(), after.end(), at);
+    }
+    for (const ConvertPixels convert : waysOf(from, to, 2)) {
+        std::vector<uint8_t> down = fresh;
+        convert({down.data(), kToStride, read.data(), kFromStride, kWidth, kHeight}, from,
+                PixelMove(from, to));
+        EXPECT_EQ(down, expected);
+        std::vector<uint8_t> up = fresh;
+        convert({up.data() + kLast * kToStride, -kToStride, read.data() + kLast * kFromStride,
+                 -kFromStride, kWidth, kHeight},
+                from, PixelMove(from, to));
+        EXPECT_EQ(up, expected);
     }
 }
 
@@ -263,7 +280,7 @@ TEST_F(ConvertRect, AWildModeWritesNothing) {
         for (const Named& target : kLayouts) {
             std::vector<uint8_t> output(64, 0x5A);
             convertRect({output.data(), 0, read.data(), 0, 16, 1}, layoutOf(kLayouts[1], palette),
-                        layoutOf(target, palette), mode);
+                        targetOf(target), mode);
             EXPECT_EQ(output, std::vector<uint8_t>(64, 0x5A));
         }
     }
