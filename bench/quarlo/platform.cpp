@@ -64,3 +64,7 @@ int32_t GPIGetFontCount() {
 }
 
 void GPIShutdownEvents() {}
+
+void GPITranslateMessage(GMessage*) {}
+
+void GPIDispatchMessage(GMessage*) {}
