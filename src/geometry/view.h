@@ -24,13 +24,20 @@ inline FrameMap physicalToVirtual(const GDrawHandle& handle) {
     return {physicalRect, handle.virtualRect};
 }
 
+/// Never inline, so that local mode, the common one, is a few instructions in its callers.
+template <typename Shape>
+[[gnu::noinline]] void mapVirtual(const GDrawHandle& handle, Shape& shape) {
+    virtualToPhysical(handle)(shape);
+}
+
 /// Application to surface coordinates, in place: a point, a line or a rectangle.
 template <typename Shape>
-void mapToScreen(const GDrawHandle& handle, Shape& shape) {
+inline void mapToScreen(const GDrawHandle& handle, Shape& shape) {
+    const GPoint& origin = handle.localOrigin;
     if (isVirtual(handle)) {
-        virtualToPhysical(handle)(shape);
-    } else {
-        offset(shape, -handle.localOrigin.x, -handle.localOrigin.y);
+        mapVirtual(handle, shape);
+    } else if (origin.x != 0 || origin.y != 0) {
+        offset(shape, -origin.x, -origin.y);
     }
 }
 

@@ -52,9 +52,14 @@ class Ramp {
     int32_t bands_;
 };
 
-/// Rows are spans, not rectangles: a device may accelerate the two differently.
+/// Rows are spans, not rectangles: a device may accelerate the two differently. A lead is painted
+/// in any colour, -1 included.
 void fillRows(const Canvas& canvas, const GRect& rect, uint32_t pixel) {
     const int32_t mode = canvas.handle.drawingMode;
+    if (canvas.kernels != nullptr && pixel != G_NO_COLOR) {
+        fillRect(canvas, rect, pixel, mode);
+        return;
+    }
     for (int32_t y = rect.top; y <= rect.bottom; ++y) {
         canvas.span(rect.left, low16(y), widthOf(rect), pixel, mode);
     }

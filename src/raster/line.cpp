@@ -9,9 +9,18 @@
 namespace quarlo {
 namespace {
 
-/// As most lines are: these need no clipping.
 bool isInside(const GLine& line, const GRect& area) {
     return contains(area, line.x1, line.y1) && contains(area, line.x2, line.y2);
+}
+
+/// The part of a line that can be seen, in `clipped` where it has to be cut; null when there is
+/// none. Most lines lie inside, and are not even copied.
+const GLine* visiblePart(const Canvas& canvas, const GLine& line, GLine& clipped) {
+    if (isInside(line, canvas.area)) {
+        return &line;
+    }
+    clipped = line;
+    return isValid(canvas.area) && GDClipLine(clipped, canvas.area) ? &clipped : nullptr;
 }
 
 } // namespace
@@ -21,15 +30,15 @@ int32_t GDRasterLine(const Canvas& canvas, const GLine& line) {
     if (handle.penDash != 0) {
         return drawDashedLine(canvas, line) ? 1 : 0;
     }
-    GLine clipped = line;
-    if (!isInside(line, canvas.area) &&
-        (!isValid(canvas.area) || !GDClipLine(clipped, canvas.area))) {
+    GLine clipped;
+    const GLine* const visible = visiblePart(canvas, line, clipped);
+    if (visible == nullptr) {
         return 0;
     }
     if (isWide(handle)) {
         drawWideLine(canvas, line);
     } else {
-        drawThinLine(canvas, clipped);
+        drawThinLine(canvas, *visible);
     }
     return 1;
 }

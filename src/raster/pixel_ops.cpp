@@ -57,8 +57,8 @@ int32_t span(GDrawHandle*, GVram* surface, int16_t x, int16_t y, uint32_t pixel,
     cellOf<Format>() = {pixel, pixelAddress<Format>(surface, x, y)};
     if (count >= 1) {
         uint8_t*& cursor = cellOf<Format>().cursor;
-        cursor = kernelsFor(Format::kBits, Mode::kNumber)
-                     ->fill(cursor, surface->bytesPerLine, count, 1, pixel);
+        cursor = kernelTable[Format::kBytes - 1][Mode::kNumber].fill(cursor, surface->bytesPerLine,
+                                                                     count, 1, pixel);
     }
     return 1;
 }
@@ -68,33 +68,17 @@ uint32_t readPixelAt(GDrawHandle*, GVram* surface, int16_t x, int16_t y) {
     return loadPixel<Format>(pixelAddress<Format>(surface, x, y));
 }
 
-/// A table entry with the kernels that do the same.
-struct MemoryEntry {
-    GPixelOps ops;
-    const Kernels* kernels;
-};
-
 template <typename Format, typename Mode, typename NextMode = Mode>
-MemoryEntry memoryEntry() {
+constexpr MemoryEntry memoryEntry() {
     GPixelOps ops{};
     ops.setPixel = setPixel<Format, Mode>;
     ops.span = span<Format, Mode>;
     ops.nextPixel = nextPixel<Format, NextMode>;
     ops.readPixel = readPixelAt<Format>;
-    return {ops, kernelsFor(Format::kBits, Mode::kNumber)};
+    return {ops, &kernelTable[Format::kBytes - 1][Mode::kNumber]};
 }
 
 constexpr int kModeCount = 4;
-
-/// By format, then by mode. The next-pixel operation of 24 bits AND is the one of 24 bits copy.
-const MemoryEntry kMemoryEntries[] = {
-    memoryEntry<Format8, Copy>(),  memoryEntry<Format8, And>(),
-    memoryEntry<Format8, Or>(),    memoryEntry<Format8, Xor>(),
-    memoryEntry<Format16, Copy>(), memoryEntry<Format16, And>(),
-    memoryEntry<Format16, Or>(),   memoryEntry<Format16, Xor>(),
-    memoryEntry<Format24, Copy>(), memoryEntry<Format24, And, Copy>(),
-    memoryEntry<Format24, Or>(),   memoryEntry<Format24, Xor>(),
-};
 
 constexpr GPixelOps kEmptyEntry{};
 
@@ -105,7 +89,7 @@ const GPixelOps* tableEntry(int32_t index) {
     if (index < 32 || format > 2 || mode >= kModeCount) {
         return &kEmptyEntry;
     }
-    return &kMemoryEntries[format * kModeCount + mode].ops;
+    return &memoryEntries[format * kModeCount + mode].ops;
 }
 
 template <int Number, typename R, typename... Args>
@@ -139,13 +123,14 @@ void selectPixelOps(GDrawHandle& handle) {
     }
 }
 
-const Kernels* kernelsOf(const GPixelOps* entry) {
-    const auto first = reinterpret_cast<uintptr_t>(&kMemoryEntries[0]);
-    const auto offset = reinterpret_cast<uintptr_t>(entry) - first;
-    if (offset >= sizeof kMemoryEntries) {
-        return nullptr;
-    }
-    return kMemoryEntries[offset / sizeof(MemoryEntry)].kernels;
-}
+/// The next-pixel operation of 24 bits AND is the one of 24 bits copy.
+constinit const MemoryEntry memoryEntries[12] = {
+    memoryEntry<Format8, Copy>(),  memoryEntry<Format8, And>(),
+    memoryEntry<Format8, Or>(),    memoryEntry<Format8, Xor>(),
+    memoryEntry<Format16, Copy>(), memoryEntry<Format16, And>(),
+    memoryEntry<Format16, Or>(),   memoryEntry<Format16, Xor>(),
+    memoryEntry<Format24, Copy>(), memoryEntry<Format24, And, Copy>(),
+    memoryEntry<Format24, Or>(),   memoryEntry<Format24, Xor>(),
+};
 
 } // namespace quarlo

@@ -27,8 +27,21 @@ extern GPixelOps deviceOps;
 /// the empty entry.
 void selectPixelOps(GDrawHandle& handle);
 
-/// The kernels that do the same as a memory entry; null for any other entry, which must be drawn
-/// through slot by slot.
-const kernel::Kernels* kernelsOf(const GPixelOps* entry);
+/// An entry for memory surfaces, with the kernels that do the same.
+struct MemoryEntry {
+    GPixelOps ops;
+    const kernel::Kernels* kernels;
+};
+
+/// By format, then by mode.
+extern const MemoryEntry memoryEntries[12];
+
+/// The kernels that do the same as an entry for memory surfaces; null for any other entry, which
+/// must be drawn through slot by slot.
+inline const kernel::Kernels* kernelsOf(const GPixelOps* entry) {
+    const auto first = reinterpret_cast<uintptr_t>(memoryEntries);
+    const bool ours = reinterpret_cast<uintptr_t>(entry) - first < sizeof memoryEntries;
+    return ours ? reinterpret_cast<const MemoryEntry*>(entry)->kernels : nullptr;
+}
 
 } // namespace quarlo

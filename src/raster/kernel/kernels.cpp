@@ -20,27 +20,16 @@ constexpr Kernels kKernels = {
     putPixel<Format, Mode>,
 };
 
-template <typename Format>
-constexpr const Kernels* kModes[] = {&kKernels<Format, Copy>, &kKernels<Format, And>,
-                                     &kKernels<Format, Or>, &kKernels<Format, Xor>};
-
 } // namespace
 
-const Kernels* kernelsFor(int32_t bitsPerPixel, int32_t mode) {
-    if (mode < 0 || mode > 3) {
-        return nullptr;
-    }
-    switch (bitsPerPixel) {
-    case 8:
-        return kModes<Format8>[mode];
-    case 16:
-        return kModes<Format16>[mode];
-    case 24:
-        return kModes<Format24>[mode];
-    default:
-        return nullptr;
-    }
-}
+const Kernels kernelTable[3][4] = {
+    {kKernels<Format8, Copy>, kKernels<Format8, And>, kKernels<Format8, Or>,
+     kKernels<Format8, Xor>},
+    {kKernels<Format16, Copy>, kKernels<Format16, And>, kKernels<Format16, Or>,
+     kKernels<Format16, Xor>},
+    {kKernels<Format24, Copy>, kKernels<Format24, And>, kKernels<Format24, Or>,
+     kKernels<Format24, Xor>},
+};
 
 uint32_t readPixel(const uint8_t* at, int32_t bitsPerPixel) {
     switch (bitsPerPixel) {

@@ -64,8 +64,14 @@ struct Kernels {
     void (*putPixel)(uint8_t* at, uint32_t pixel);
 };
 
+/// By bytes a pixel less one, then by drawing mode.
+extern const Kernels kernelTable[3][4];
+
 /// The kernels for 8, 16 or 24 bits a pixel and drawing mode 0 to 3; null for anything else.
-const Kernels* kernelsFor(int32_t bitsPerPixel, int32_t mode);
+inline const Kernels* kernelsFor(int32_t bitsPerPixel, int32_t mode) {
+    const bool known = bitsPerPixel == 8 || bitsPerPixel == 16 || bitsPerPixel == 24;
+    return known && mode >= 0 && mode <= 3 ? &kernelTable[bitsPerPixel / 8 - 1][mode] : nullptr;
+}
 
 /// Reads the pixel value at an address; 8, 16 or 24 bits a pixel.
 uint32_t readPixel(const uint8_t* at, int32_t bitsPerPixel);
