@@ -138,8 +138,9 @@ static inline int32_t GDSetTableEdge(GPoint run[4], const int16_t* columns, int3
 #if UINTPTR_MAX > UINT32_MAX
     const intptr_t distance = (intptr_t)((uintptr_t)columns - (uintptr_t)&run[2]);
     const int32_t reference = (int32_t)distance;
-    if (distance != reference)
+    if (distance != reference) {
         return 0;
+    }
 #else
     const uintptr_t reference = (uintptr_t)columns;
 #endif
