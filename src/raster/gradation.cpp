@@ -1,56 +1,12 @@
 #include "raster/gradation.h"
 
 #include "draw/clip.h"
+#include "raster/ramp.h"
 
 #include <algorithm>
 
 namespace quarlo {
 namespace {
-
-constexpr int32_t kMostBands = 256;
-
-/// Bands are 5-5-5 whatever the depth of the surface, deliberately.
-uint32_t pack555(int32_t red, int32_t green, int32_t blue) {
-    return static_cast<uint32_t>((red & 0xF8) << 7 | (green & 0xF8) << 2 | blue >> 3);
-}
-
-/// A ramp of colour bands along one axis of a rectangle, in lines from the rectangle's first.
-class Ramp {
-  public:
-    Ramp(const GGradationInfo& info, int32_t extent)
-        : info_(info),
-          extent_(extent),
-          lead_(static_cast<int32_t>(int64_t{extent} * info.lead / 100)),
-          bands_(std::min({int32_t{info.steps}, kMostBands, extent - lead_})) {}
-
-    int32_t bands() const { return bands_; }
-    int32_t lead() const { return lead_; }
-
-    int32_t firstLine(int32_t band) const {
-        return lead_ + static_cast<int32_t>(int64_t{band} * (extent_ - lead_) / bands_);
-    }
-
-    /// The last band takes the line that the extent, one less than the lines, leaves over.
-    int32_t lastLine(int32_t band) const {
-        return band == bands_ - 1 ? extent_ : firstLine(band + 1) - 1;
-    }
-
-    uint32_t color(int32_t band) const {
-        return pack555(channel(16, band), channel(8, band), channel(0, band));
-    }
-
-  private:
-    int32_t channel(int shift, int32_t band) const {
-        const auto start = static_cast<int32_t>(info_.startColor >> shift & 0xFF);
-        const auto end = static_cast<int32_t>(info_.endColor >> shift & 0xFF);
-        return bands_ <= 1 ? start : start + (end - start) * band / (bands_ - 1);
-    }
-
-    const GGradationInfo& info_;
-    int32_t extent_;
-    int32_t lead_;
-    int32_t bands_;
-};
 
 /// Rows are spans, not rectangles: a device may accelerate the two differently. A lead is painted
 /// in any colour, -1 included.

@@ -1,6 +1,7 @@
 #include "raster/wide_line.h"
 
 #include "geometry/geometry.h"
+#include "raster/ellipse.h"
 #include "raster/polygon.h"
 
 #include <quarlo/draw.h>
@@ -119,6 +120,18 @@ void bevel(const Canvas& canvas, const GPoint previous[2], const GPoint start[2]
     fillQuad(canvas, corners, kJoinPattern);
 }
 
+/// An ellipse of the pen's size.
+void roundOff(const Canvas& canvas, const GPoint& at) {
+    const GDrawHandle& handle = canvas.handle;
+    const Reach x(handle.penWidth);
+    const Reach y(handle.penHeight);
+    const GRect box{saturated(at.x - x.before), saturated(at.y - y.before),
+                    saturated(at.x + x.behind), saturated(at.y + y.behind)};
+    const uint32_t pixel = handle.penPixel;
+    fillEllipse(canvas, {box, x.before, y.before},
+                {pixel, pixel, handle.fillPatterns[kJoinPattern]}, handle.drawingMode);
+}
+
 void join(const Canvas& canvas, const GPoint& at, const GPoint start[2]) {
     const GDrawHandle& handle = canvas.handle;
     const GWideLineState& state = handle.wideLine;
@@ -129,6 +142,8 @@ void join(const Canvas& canvas, const GPoint& at, const GPoint start[2]) {
     }
     if (handle.penJoin == G_JOIN_BEVEL) {
         bevel(canvas, state.previous, start);
+    } else if (handle.penJoin == G_JOIN_ROUND) {
+        roundOff(canvas, at);
     }
 }
 
