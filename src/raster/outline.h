@@ -1,7 +1,9 @@
-// Outlines of ellipses and rounded rectangles.
+// Outlines of ellipses and rounded rectangles, whole or in part.
 #pragma once
 
+#include "raster/arc_end.h"
 #include "raster/ellipse.h"
+#include "raster/sector.h"
 
 #include <algorithm>
 
@@ -28,13 +30,19 @@ void walkOutline(const Ellipse& ellipse, Sides sides, const Piece& piece) {
 }
 
 /// Draws the outline with the handle's pen in a pixel value: one pixel thin, or as a ring of the
-/// pen's size. The ring reaches outwards as far as a pen centred on the outline, and where the pen
-/// is even one pixel less inwards.
+/// pen's size, which reaches outwards as far as a pen centred on the outline, and where the pen is
+/// even one pixel less inwards. A dash is of no account.
 void drawOutline(const Canvas& canvas, const Ellipse& ellipse, Sides sides, uint32_t pixel,
                  int32_t mode);
 
-/// The ring alone.
-void drawWideOutline(const Canvas& canvas, const Ellipse& ellipse, Sides sides, uint32_t pixel,
-                     int32_t mode);
+/// Draws the outline of an ellipse from one end of an arc to the other, both included when it is
+/// thin: then it is exactly that part of the whole thin outline. A wide one is cut along the rays
+/// from the centre.
+void drawArc(const Canvas& canvas, const Ellipse& ellipse, const ArcSpan& arc, uint32_t pixel,
+             int32_t mode);
+
+/// The ring alone, or its part in a sector.
+void drawWideOutline(const Canvas& canvas, const Ellipse& ellipse, Sides sides,
+                     const Sector* sector, uint32_t pixel, int32_t mode);
 
 } // namespace quarlo

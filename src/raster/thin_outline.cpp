@@ -44,7 +44,7 @@ void drawThinOutline(const Canvas& canvas, const Ellipse& ellipse, Sides sides, 
 void drawOutline(const Canvas& canvas, const Ellipse& ellipse, Sides sides, uint32_t pixel,
                  int32_t mode) {
     if (isWide(canvas.handle)) {
-        drawWideOutline(canvas, ellipse, sides, pixel, mode);
+        drawWideOutline(canvas, ellipse, sides, nullptr, pixel, mode);
     } else {
         drawThinOutline(canvas, ellipse, sides, pixel, mode);
     }

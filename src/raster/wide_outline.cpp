@@ -1,10 +1,7 @@
 // Outlines as wide as the pen.
-#include "geometry/map.h"
-#include "memory/memory.h"
 #include "raster/outline.h"
 #include "raster/polygon.h"
-
-#include <quarlo/draw.h>
+#include "raster/run_table.h"
 
 #include <cmath>
 #include <cstdlib>
@@ -133,96 +130,49 @@ class Ring {
     const Brush& inward_;
 };
 
-/// The edges of the ring's two halves as tables of columns, on rows that can be seen. A row without
-/// a hole belongs to the left half.
-class Tables {
-  public:
-    static constexpr int32_t kEdges = 4; ///< outer left, inner left, inner right, outer right
-
-    Tables(const GRect& area, int32_t rows, int16_t* columns)
-        : area_(area), length_(rows + 1), columns_(columns) {}
-
-    /// One row more than is painted: a polygon leaves its last row out.
-    static int32_t sizeFor(int32_t rows) { return kEdges * (rows + 1); }
-
-    const int16_t* edge(int32_t number) const { return columns_ + number * length_; }
-
-    void fill(const Ring& ring, const Ellipse& ellipse, int32_t firstRow) {
-        const int32_t left = ellipse.leftCentre;
-        const int32_t right = ellipse.rightCentre;
-        const int32_t enough = std::max(left - area_.left, area_.right - right) + 1;
-        const int32_t least = (left - right) / 2;
-        for (int32_t i = 0; i < length_ - 1; ++i) {
-            const int32_t outer = ring.outer(firstRow + i, enough);
-            const int32_t hole = ring.inner(firstRow + i, least);
-            const bool whole = hole == kNoColumns;
-            set(0, i, left - outer);
-            set(1, i, whole ? right + outer : left - hole - 1);
-            set(2, i, whole ? area_.right + 1 : right + hole + 1);
-            set(3, i, whole ? area_.right + 1 : right + outer);
+/// The ring's visible rows: one run where there is no hole, else two.
+void tabulate(RunTable& table, const Ring& ring, const Ellipse& ellipse, const GRect& area,
+              const Sector* sector) {
+    const int32_t left = ellipse.leftCentre;
+    const int32_t right = ellipse.rightCentre;
+    const int32_t enough = std::max(left - area.left, area.right - right) + 1;
+    const int32_t least = (left - right) / 2;
+    for (int32_t row = table.firstRow(); row <= table.lastRow(); ++row) {
+        const int32_t outer = ring.outer(row, enough);
+        const int32_t hole = ring.inner(row, least);
+        if (hole == kNoColumns) {
+            table.add(row, {left - outer, right + outer}, sector);
+        } else {
+            table.add(row, {left - outer, left - hole - 1}, sector);
+            table.add(row, {right + hole + 1, right + outer}, sector);
         }
     }
-
-  private:
-    void set(int32_t edge, int32_t row, int32_t column) {
-        columns_[edge * length_ + row] =
-            low16(std::clamp<int32_t>(column, area_.left - 1, area_.right + 1));
-    }
-
-    const GRect& area_;
-    int32_t length_;
-    int16_t* columns_;
-};
-
-/// Half of the ring as a polygon of two table edges. It stands in one block with their tables.
-struct Half {
-    GPoint points[8];
-
-    void fill(const Canvas& canvas, const GRect& rows, const int16_t* left, const int16_t* right,
-              uint32_t pixel, int32_t mode) {
-        const int16_t end = low16(rows.bottom + 1);
-        points[0] = points[7] = {0, rows.top};
-        points[3] = points[4] = {0, end};
-        GDSetTableEdge(points, left, 0);
-        GDSetTableEdge(points + 4, right, 0);
-        GDFillPolygon(canvas, {8, points, {}}, pixel, pixel, kSolidPattern, mode);
-    }
-};
+}
 
 } // namespace
 
-void drawWideOutline(const Canvas& canvas, const Ellipse& ellipse, Sides sides, uint32_t pixel,
-                     int32_t mode) {
+void drawWideOutline(const Canvas& canvas, const Ellipse& ellipse, Sides sides,
+                     const Sector* sector, uint32_t pixel, int32_t mode) {
     const int32_t penX = std::max<int32_t>(canvas.handle.penWidth, 1);
     const int32_t penY = std::max<int32_t>(canvas.handle.penHeight, 1);
-    GRect rows = canvas.area;
-    const int32_t top = std::max<int32_t>(ellipse.topCentre - ellipse.b - penY / 2, rows.top);
-    const int32_t bottom =
-        std::min<int32_t>(ellipse.bottomCentre + ellipse.b + penY / 2, rows.bottom);
-    if (top > bottom || ellipse.a < 0 || ellipse.b < 0) {
+    if (ellipse.a < 0 || ellipse.b < 0) {
         return;
     }
-    rows.top = low16(top);
-    rows.bottom = low16(bottom);
+    RunTable table(canvas, ellipse.topCentre - ellipse.b - penY / 2,
+                   ellipse.bottomCentre + ellipse.b + penY / 2);
     const int32_t shapeSize = Shape::kTables * (ellipse.b + 1);
     const int32_t outwardSize = penY / 2 + 1;
     const int32_t inwardSize = (penY - 1) / 2 + 1;
-    const int32_t size = static_cast<int32_t>(sizeof(Half)) +
-                         (shapeSize + outwardSize + inwardSize) * int32_t{sizeof(int32_t)} +
-                         Tables::sizeFor(heightOf(rows)) * int32_t{sizeof(int16_t)};
-    auto* const half = static_cast<Half*>(allocateCleared(kLibrarySpace, size));
-    if (half == nullptr) {
+    const Block block(int64_t{shapeSize + outwardSize + inwardSize} * int64_t{sizeof(int32_t)});
+    if (!table.isReady() || !block) {
         return;
     }
-    auto* reaches = reinterpret_cast<int32_t*>(half + 1);
-    const Shape shape(ellipse, sides, reaches);
-    const Brush outward(penX / 2, penY / 2, reaches += shapeSize);
-    const Brush inward((penX - 1) / 2, (penY - 1) / 2, reaches += outwardSize);
-    Tables tables(canvas.area, heightOf(rows), reinterpret_cast<int16_t*>(reaches + inwardSize));
-    tables.fill({shape, outward, inward}, ellipse, top);
-    half->fill(canvas, rows, tables.edge(0), tables.edge(1), pixel, mode);
-    half->fill(canvas, rows, tables.edge(2), tables.edge(3), pixel, mode);
-    release(half);
+    auto* rows = static_cast<int32_t*>(block.get());
+    const Shape shape(ellipse, sides, rows);
+    const Brush outward(penX / 2, penY / 2, rows += shapeSize);
+    const Brush inward((penX - 1) / 2, (penY - 1) / 2, rows += outwardSize);
+    tabulate(table, {shape, outward, inward}, ellipse, canvas.area, sector);
+    table.fill(pixel, pixel, kSolidPattern, mode);
 }
 
 } // namespace quarlo
