@@ -33,7 +33,7 @@ GPoint ArcEnd::on(const Ellipse& ellipse) const {
 }
 
 ArcEndSearch::ArcEndSearch(ArcAngle angle, const Ellipse& ellipse)
-    : end_{angle.quadrant(), 0, ellipse.b} {
+    : first_(ellipse.b), end_{angle.quadrant(), 0, ellipse.b} {
     if (angle.isUpright()) {
         found_ = true;
         return;
@@ -58,11 +58,21 @@ void ArcEndSearch::feed(int32_t x, int32_t y) {
 /// Within its row the pixel moves inwards as long as the slope stays below the angle's.
 void ArcEndSearch::settle(int32_t x, int32_t y) {
     const int64_t height = int64_t{y} * kOne;
+    const int32_t outermost = x;
     while (x >= 1 && x > previous_ && height / x < slope_) {
         --x;
     }
     end_.x = x;
     end_.y = y;
+    covered_ = x < outermost && x == previous_ && y < first_;
+}
+
+ArcEnd ArcEndSearch::outlineEnd() const {
+    ArcEnd end = end_;
+    if (covered_) {
+        (end.isRising() ? end.x : end.y) += 1;
+    }
+    return end;
 }
 
 bool ArcSpan::holdsQuarter(int32_t quadrant) const {
@@ -83,7 +93,8 @@ ArcSpan findArc(GArcState& state, const Ellipse& ellipse, int32_t startTenths, i
     state.start = start.end().on(ellipse);
     state.end = end.end().on(ellipse);
     state.inverseSlope = end.inverseSlope();
-    return {start.end(), end.end(), ArcAngle::of(to.tenths - from.tenths).tenths};
+    return {start.end(), end.end(), start.outlineEnd(), end.outlineEnd(),
+            ArcAngle::of(to.tenths - from.tenths).tenths};
 }
 
 } // namespace quarlo

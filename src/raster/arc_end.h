@@ -27,13 +27,16 @@ struct ArcAngle {
     static constexpr int32_t kFullTurn = 3600;
 };
 
-/// A pixel of the outline by its distances from the centre of its quarter.
+/// A pixel by its distances from the centre of its quarter.
 struct ArcEnd {
     int32_t quadrant;
     int32_t x;
     int32_t y;
 
     GPoint on(const Ellipse& ellipse) const;
+
+    /// Angles grow towards the top here.
+    bool isRising() const { return quadrant % 2 == 0; }
 };
 
 /// The search for an angle's pixel among the rows of a quarter, which are fed to it from the top
@@ -47,6 +50,10 @@ class ArcEndSearch {
 
     ArcEnd end() const { return end_; }
 
+    /// The pixel of the thin outline that stands for it. The search may stop at one that the row
+    /// above covers; then it is the neighbour that a fill of the sector holds.
+    ArcEnd outlineEnd() const;
+
     /// Columns a row, 16.16 fixed point: 0 upright, the semi-axis for a level angle.
     int32_t inverseSlope() const { return inverseSlope_; }
 
@@ -56,6 +63,8 @@ class ArcEndSearch {
     int64_t slope_ = 0; ///< rows a column, 16.16 fixed point
     int32_t inverseSlope_ = 0;
     int32_t previous_ = 0; ///< column of the row above
+    const int32_t first_;  ///< row
+    bool covered_ = false; ///< the end is not in the thin outline
     bool found_ = false;
     ArcEnd end_;
 };
@@ -64,6 +73,8 @@ class ArcEndSearch {
 struct ArcSpan {
     ArcEnd start;
     ArcEnd end;
+    ArcEnd outlineStart; ///< the same ends as pixels of the thin outline
+    ArcEnd outlineEnd;
     int32_t sweep; ///< tenths of a degree from start to end, 0 to 3599
 
     /// Whether the arc passes through a whole quarter.

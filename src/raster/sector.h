@@ -32,32 +32,38 @@ class Sector {
     }
 
   private:
-    /// A direction in half pixels, upwards positive.
+    /// From the centre of a quarter through a pixel of the outline.
     struct Ray {
-        int64_t x;
+        int32_t centre; ///< column
+        int64_t x;      ///< to the pixel; upwards positive
         int64_t y;
-
-        Ray turned() const { return {-x, -y}; }
-        /// From the level ray on the right, included, half a turn on.
-        bool isUpper() const { return y > 0 || (y == 0 && x > 0); }
+        int64_t halfX; ///< the same from the middle of the ellipse, in half pixels
+        int64_t halfY;
+        bool upper; ///< it runs through the rows of the upper half
     };
 
     struct Parts {
         ColumnRun runs[2];
     };
 
-    static int64_t cross(const Ray& a, const Ray& b) { return a.x * b.y - a.y * b.x; }
+    Ray rayTo(const Ellipse& ellipse, const ArcEnd& end) const;
+    Ray turned(const Ray& ray) const;
+    static int64_t cross(const Ray& a, const Ray& b) {
+        return a.halfX * b.halfY - a.halfY * b.halfX;
+    }
+    static bool precedes(const Ray& a, const Ray& b);
+    bool holdsLevel(bool right) const;
 
-    Ray rayTo(const GPoint& point) const;
-    bool holds(const Ray& ray) const;
+    static int32_t columnOn(const Ray& ray, int64_t height);
+    static Parts upperParts(int64_t height, const Ray& start, const Ray& end);
     Parts partsOf(int32_t row) const;
-    Parts upperParts(int64_t height, const Ray& start, const Ray& end) const;
     Parts levelParts() const;
 
-    int32_t doubledX_; ///< twice the centre, which may lie between pixels
-    int32_t doubledY_;
-    Ray start_{};
-    Ray end_{};
+    int32_t doubledX_; ///< twice the middle column, which may lie between pixels
+    int32_t topCentre_;
+    int32_t bottomCentre_;
+    Ray start_;
+    Ray end_;
     bool whole_; ///< the ends are one ray and the arc goes all the way round
     bool empty_; ///< it goes nowhere
 };

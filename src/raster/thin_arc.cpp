@@ -13,6 +13,8 @@ struct Piece {
     int32_t outer;
 };
 
+constexpr Piece kNothing = {1, 0};
+
 /// The runs of one row, which may overlap where quarters share pixels.
 class RowRuns {
   public:
@@ -40,13 +42,18 @@ class RowRuns {
 
 /// The part of a quarter's row between a pixel of the outline and the top.
 Piece above(const ArcEnd& end, const Piece& piece, int32_t y) {
-    return y < end.y ? Piece{1, 0} : Piece{piece.inner, y > end.y ? piece.outer : end.x};
+    if (y != end.y) {
+        return y < end.y ? kNothing : piece;
+    }
+    return {piece.inner, end.x};
 }
 
 /// The part between it and the middle.
 Piece below(const ArcEnd& end, const Piece& piece, int32_t y) {
-    return y > end.y ? Piece{1, 0}
-                     : Piece{y < end.y ? piece.inner : std::max(piece.inner, end.x), piece.outer};
+    if (y != end.y) {
+        return y > end.y ? kNothing : piece;
+    }
+    return {end.x, piece.outer};
 }
 
 /// A quarter's row on an arc. Angles grow towards the top in every other quarter.
@@ -56,17 +63,19 @@ class QuarterRow {
         : ellipse_(ellipse), arc_(arc), quadrant_(quadrant) {}
 
     void addTo(RowRuns& runs, const Piece& piece, int32_t y) const {
-        const bool rising = quadrant_ % 2 == 0;
-        const bool starts = arc_.start.quadrant == quadrant_;
-        const bool ends = arc_.end.quadrant == quadrant_;
+        const ArcEnd& start = arc_.outlineStart;
+        const ArcEnd& end = arc_.outlineEnd;
+        const bool starts = start.quadrant == quadrant_;
+        const bool ends = end.quadrant == quadrant_;
         if (!starts && !ends) {
             if (arc_.holdsQuarter(quadrant_)) {
                 add(runs, piece);
             }
             return;
         }
-        const Piece fromStart = rising ? above(arc_.start, piece, y) : below(arc_.start, piece, y);
-        const Piece toEnd = rising ? below(arc_.end, piece, y) : above(arc_.end, piece, y);
+        const bool rising = quadrant_ % 2 == 0;
+        const Piece fromStart = rising ? above(start, piece, y) : below(start, piece, y);
+        const Piece toEnd = rising ? below(end, piece, y) : above(end, piece, y);
         if (starts && ends && !arc_.returns()) {
             add(runs,
                 {std::max(fromStart.inner, toEnd.inner), std::min(fromStart.outer, toEnd.outer)});

@@ -52,7 +52,8 @@ class Shape {
         walkOutline(ellipse, sides, [this](int32_t /*inner*/, int32_t outer, int32_t y) {
             const int32_t a = 2 * ellipse_.a;
             const int32_t b = 2 * ellipse_.b;
-            whole_[y] = halfRow(a + 1, b + 1, 2 * y);
+            // Very flat ellipses end early, in the fill as well.
+            whole_[y] = std::min(halfRow(a + 1, b + 1, 2 * y), (outer + 1) * (1 << kFraction));
             inside_[y] = y < ellipse_.b ? halfRow(a - 1, b - 1, 2 * y) : kNoColumns;
             painted_[y] = outer;
         });

@@ -1,9 +1,11 @@
 #include "raster/drawing.h"
+#include "raster/ellipse.h"
 
 #include "support/random_calls.h"
 
 #include <cmath>
 
+using namespace quarlo;
 using namespace quarlo::test;
 
 namespace {
@@ -134,6 +136,40 @@ TEST_F(WideLine, ClosesABevelledFrameAtEveryCorner) {
     EXPECT_NE(pixelAt(*drawing.surface(), 25, 19), 0U);
 }
 
+TEST_F(WideLine, IsRoundedOffByAnEllipseOfThePensSize) {
+    for (const int16_t pen : {int16_t{5}, int16_t{8}, int16_t{13}}) {
+        const auto lines = [pen](GDrawHandle* handle, uint16_t join) {
+            GDSetPenSize(handle, pen, pen);
+            GDSetPenJoin(handle, join);
+            GDMoveTo(handle, 10, 40);
+            GDLineTo(handle, 30, 10);
+            GDLineTo(handle, 50, 40);
+        };
+        Drawing rounded(60, 50);
+        lines(rounded, G_JOIN_ROUND);
+        Drawing expected(60, 50);
+        lines(expected, 0);
+        const GRect box{static_cast<int16_t>(30 - pen / 2), static_cast<int16_t>(10 - pen / 2),
+                        static_cast<int16_t>(30 + (pen - 1) / 2),
+                        static_cast<int16_t>(10 + (pen - 1) / 2)};
+        // An even pen's radii are half of it, not of the box.
+        fillEllipse(Canvas(*expected.operator->()), {box, pen / 2, pen / 2}, Paint::solid(1),
+                    G_MODE_COPY);
+        EXPECT_TRUE(samePicture(pictureOf(*rounded.surface()), pictureOf(*expected.surface())));
+    }
+}
+
+TEST_F(WideLine, ClosesARoundedFrameAtEveryCorner) {
+    Drawing drawing(30, 24);
+    GDSetPenSize(drawing, 7, 7);
+    GDSetPenJoin(drawing, G_JOIN_ROUND);
+    drawRect(drawing, 8, 6, 22, 18);
+    for (const GPoint& corner : {GPoint{6, 4}, GPoint{24, 4}, GPoint{24, 20}, GPoint{6, 20}}) {
+        EXPECT_NE(pixelAt(*drawing.surface(), corner.x, corner.y), 0U);
+    }
+    EXPECT_EQ(pixelAt(*drawing.surface(), 5, 3), 0U);
+}
+
 TEST_F(WideLine, OfAnySizeAndPlaceStaysInsideTheClip) {
     Random random(testSeed());
     for (const Against side : {Against::Start, Against::End}) {
@@ -141,7 +177,7 @@ TEST_F(WideLine, OfAnySizeAndPlaceStaysInsideTheClip) {
         setClip(drawing, 3, 4, 33, 25);
         for (int round = 0; round < 2000; ++round) {
             GDSetPenSize(drawing, random.coordinate(1, 60), random.coordinate(1, 60));
-            GDSetPenJoin(drawing, random.between(0, 1));
+            GDSetPenJoin(drawing, random.between(0, 2));
             GDSetPenDash(drawing, random.oneIn(4) ? random.between(0, 9) : 0);
             GLine line{random.coordinate(-50, 90), random.coordinate(-50, 90),
                        random.coordinate(-50, 90), random.coordinate(-50, 90)};

@@ -1,0 +1,201 @@
+#include "raster/curve_test.h"
+
+#include <quarlo/draw.h>
+
+#include <cmath>
+
+using namespace quarlo;
+using namespace quarlo::test;
+
+namespace {
+
+class Arc : public RasterTest {};
+
+void drawArc(GDrawHandle* handle, const GRect& box, int32_t start, int32_t end) {
+    GDDrawArc(handle, &box, static_cast<int16_t>(start), static_cast<int16_t>(end));
+}
+
+constexpr GRect kBox = {10, 5, 50, 35}; // centre (30, 20), semi-axes 20 and 15
+
+/// The pixel of an angle, step by step.
+GPoint endPoint(const CurveModel& oval, int32_t angle, int32_t& inverseSlope) {
+    const auto list = quarterColumns(oval.a, oval.b);
+    const int32_t quadrant = angle / 900;
+    int32_t x = 0;
+    int32_t y = oval.b;
+    inverseSlope = 0;
+    if (angle != 900 && angle != 2700) {
+        const auto t = angle % 1800 == 0
+                           ? 0.0F
+                           : static_cast<float>(std::fabs(std::tan(angle * 0.00174532925)));
+        const auto s = static_cast<int64_t>(t * 65536);
+        inverseSlope = t == 0 ? oval.a * 65536 : static_cast<int32_t>(65536 / t);
+        int64_t height = int64_t{oval.b} * 65536;
+        size_t i = 0;
+        while (height > 0 && !(list[i] != 0 && height / list[i] <= s)) {
+            height -= 65536;
+            ++i;
+        }
+        const int32_t previous = i == 0 ? 0 : list[i - 1];
+        x = list[i];
+        y = static_cast<int32_t>(height >> 16);
+        while (x >= 1 && !(x <= previous || height / x >= s)) {
+            --x;
+        }
+    }
+    const bool left = quadrant == 1 || quadrant == 2;
+    const bool upper = quadrant < 2;
+    return {static_cast<int16_t>(left ? oval.left - x : oval.right + x),
+            static_cast<int16_t>(upper ? oval.top - y : oval.bottom + y)};
+}
+
+TEST_F(Arc, LeavesItsEndsInTheHandle) {
+    Drawing drawing(60, 40);
+    drawArc(drawing, kBox, 0, 900);
+    EXPECT_EQ(drawing->arc.start.x, 50);
+    EXPECT_EQ(drawing->arc.start.y, 20);
+    EXPECT_EQ(drawing->arc.end.x, 30);
+    EXPECT_EQ(drawing->arc.end.y, 5);
+    EXPECT_EQ(drawing->arc.inverseSlope, 0);
+    drawArc(drawing, kBox, 2700, 1800);
+    EXPECT_EQ(drawing->arc.start.x, 30);
+    EXPECT_EQ(drawing->arc.start.y, 35);
+    EXPECT_EQ(drawing->arc.end.x, 10);
+    EXPECT_EQ(drawing->arc.end.y, 20);
+    EXPECT_EQ(drawing->arc.inverseSlope, 20 * 65536);
+    drawArc(drawing, kBox, 900, 3600);
+    EXPECT_EQ(drawing->arc.end.x, 50);
+    EXPECT_EQ(drawing->arc.inverseSlope, 20 * 65536);
+}
+
+TEST_F(Arc, FindsItsEndsAsThePlainSteps) {
+    for (const GRect& box : {kBox, GRect{10, 5, 49, 34}, GRect{0, 0, 63, 7}, GRect{3, 0, 9, 47},
+                             GRect{5, 5, 5, 5}, GRect{5, 5, 6, 9}, GRect{-300, -200, 320, 250}}) {
+        Drawing drawing(kCurveWidth, kCurveHeight);
+        const CurveModel oval = CurveModel::oval(box);
+        for (int32_t angle = 0; angle < 3600; ++angle) {
+            drawArc(drawing, box, angle, 3599 - angle);
+            int32_t slope = 0;
+            const GPoint start = endPoint(oval, angle, slope);
+            const GPoint end = endPoint(oval, 3599 - angle, slope);
+            ASSERT_EQ(drawing->arc.start.x, start.x) << angle;
+            ASSERT_EQ(drawing->arc.start.y, start.y) << angle;
+            ASSERT_EQ(drawing->arc.end.x, end.x) << angle;
+            ASSERT_EQ(drawing->arc.end.y, end.y) << angle;
+            ASSERT_EQ(drawing->arc.inverseSlope, slope) << angle;
+        }
+    }
+}
+
+TEST_F(Arc, TakesFullTurnsOffItsAngles) {
+    const auto drawn = [](int32_t start, int32_t end) {
+        return painted([=](GDrawHandle* handle) { drawArc(handle, kBox, start, end); });
+    };
+    EXPECT_EQ(difference(drawn(3600 + 450, 7200 + 1700), drawn(450, 1700)), "");
+    EXPECT_EQ(difference(drawn(-900, 450), drawn(2700, 450)), "");
+    EXPECT_EQ(difference(drawn(-32768, 32767), drawn(3232, 367)), "");
+}
+
+TEST_F(Arc, OutOfSightConvertsTheLastEndsOnceMore) {
+    Drawing drawing(60, 40);
+    drawArc(drawing, kBox, 0, 900);
+    const GPoint origin{100, 1000};
+    GDSetLocalOrigin(drawing, &origin);
+    drawArc(drawing, kBox, 0, 900); // now far off
+    EXPECT_EQ(drawing->arc.start.x, 150);
+    EXPECT_EQ(drawing->arc.start.y, 1020);
+    drawArc(drawing, kBox, 0, 900);
+    EXPECT_EQ(drawing->arc.start.x, 250);
+    EXPECT_EQ(drawing->arc.end.y, 2005);
+}
+
+TEST_F(Arc, OfNoLengthIsOnePixel) {
+    forRandomCurves(200, [&](const CurveBox& curve) -> std::string {
+        const int32_t angle = std::max(curve.first, 0) % 3600;
+        const Pixels pixels =
+            painted([&](GDrawHandle* handle) { drawArc(handle, kBox, angle, angle); });
+        int32_t slope = 0;
+        const GPoint end = endPoint(CurveModel::oval(kBox), angle, slope);
+        if (pixels.size() != 1) {
+            return std::to_string(pixels.size()) + " pixels";
+        }
+        const auto [y, x] = *pixels.begin();
+        return std::abs(y - end.y) <= 1 && std::abs(x - end.x) <= 1 ? "" : "away from the end";
+    });
+}
+
+TEST_F(Arc, AndTheRestOfTheTurnAreTheWholeOutline) {
+    forRandomCurves(1000, [&](const CurveBox& curve) -> std::string {
+        const auto& [box, first, second, pen] = curve;
+        const auto arc = [&box = box](int32_t start, int32_t end) {
+            return painted([&](GDrawHandle* handle) { drawArc(handle, box, start, end); });
+        };
+        const Pixels one = arc(first, second);
+        const Pixels other = arc(second, first);
+        Pixels both = one;
+        both.insert(other.begin(), other.end());
+        if ((first - second) % 3600 == 0) {
+            return "";
+        }
+        const size_t shared = one.size() + other.size() - both.size();
+        if (shared > 2) {
+            return std::to_string(shared) + " pixels are shared";
+        }
+        // Angles so close that they share a pixel leave the shorter arc as that pixel, or give the
+        // longer one all of the outline.
+        return difference(both, within(CurveModel::oval(box).outline(), kCurveArea));
+    });
+}
+
+TEST_F(Arc, WithAWidePenAndTheRestAreTheWholeRing) {
+    forRandomCurves(300, [&](const CurveBox& curve) -> std::string {
+        const auto& [box, first, second, pen] = curve;
+        const auto draw = [&box = box, pen = pen](int32_t start, int32_t end) {
+            return painted([&](GDrawHandle* handle) { drawArc(handle, box, start, end); }, pen);
+        };
+        if (CurveModel::oval(box).filled().empty() || box.left > kCurveArea.right ||
+            box.right < 0 || box.top > kCurveArea.bottom || box.bottom < 0) {
+            return ""; // an arc is not drawn for the sake of its pen alone
+        }
+        const Pixels ring =
+            painted([&box = box](GDrawHandle* handle) { GDDrawOval(handle, &box); }, pen);
+        const Pixels one = draw(first, second);
+        const Pixels other = draw(second, first);
+        Pixels both = one;
+        both.insert(other.begin(), other.end());
+        // They share the pixel in the middle at most.
+        if (one.size() + other.size() > both.size() + 1) {
+            return "they overlap";
+        }
+        const bool oneRay = one.empty() || other.empty();
+        return oneRay && both.empty() ? "" : difference(both, ring);
+    });
+}
+
+TEST_F(Arc, WithoutPenColorOnlyFindsItsEnds) {
+    Drawing drawing(60, 40);
+    GDSetPenColor(drawing, G_NO_COLOR);
+    drawArc(drawing, kBox, 450, 900);
+    EXPECT_TRUE(pixelsOf(*drawing.surface()).empty());
+    EXPECT_EQ(drawing->arc.end.y, 5);
+}
+
+TEST_F(Arc, OfAnyBoxAngleAndPenIsCalm) {
+    Random random(testSeed());
+    for (int round = 0; round < 400; ++round) {
+        Drawing drawing(kCurveWidth, kCurveHeight, 16);
+        const GRect box{random.coordinate(-90, 90), random.coordinate(-90, 90),
+                        random.coordinate(-90, 90), random.coordinate(-90, 90)};
+        GDSetPenSize(drawing, random.coordinate(0, 20), random.coordinate(0, 20));
+        GDSetFillAttribute(drawing, static_cast<int16_t>(random.between(-4, 40)), 1, 2);
+        const size_t blocks = platform.blocksInUse();
+        platform.failAllocation(random.between(0, 5));
+        drawArc(drawing, box, random.coordinate(0, 3600), random.coordinate(0, 3600));
+        GDDrawPie(drawing, &box, random.coordinate(0, 3600), random.coordinate(0, 3600));
+        platform.failAllocation(0);
+        EXPECT_TRUE(drawing.surface().memory().intact());
+        EXPECT_EQ(platform.blocksInUse(), blocks);
+    }
+}
+
+} // namespace

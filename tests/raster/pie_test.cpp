@@ -1,0 +1,131 @@
+#include "raster/curve_test.h"
+
+#include <quarlo/draw.h>
+
+using namespace quarlo;
+using namespace quarlo::test;
+
+namespace {
+
+class Pie : public RasterTest {};
+
+void drawPie(GDrawHandle* handle, const GRect& box, int32_t start, int32_t end) {
+    GDDrawPie(handle, &box, static_cast<int16_t>(start), static_cast<int16_t>(end));
+}
+
+TEST_F(Pie, OfFourQuartersIsTheOval) {
+    forRandomCurves(400, [&](const CurveBox& curve) -> std::string {
+        const GRect& box = curve.box;
+        Pixels all;
+        size_t sum = 0;
+        for (int32_t quarter = 0; quarter < 4; ++quarter) {
+            const Pixels pie = filledBy([&](GDrawHandle* handle) {
+                drawPie(handle, box, quarter * 900, (quarter + 1) * 900);
+            });
+            sum += pie.size();
+            all.insert(pie.begin(), pie.end());
+        }
+        // The centre, where there is one, belongs to all of them.
+        if (sum > all.size() + 3) {
+            return "quarters overlap";
+        }
+        return difference(all, within(CurveModel::oval(box).filled(), kCurveArea));
+    });
+}
+
+TEST_F(Pie, AndTheRestOfTheTurnAreTheOval) {
+    forRandomCurves(800, [&](const CurveBox& curve) -> std::string {
+        const auto& [box, first, second, pen] = curve;
+        const auto fill = [&box = box](int32_t start, int32_t end) {
+            return filledBy([&](GDrawHandle* handle) { drawPie(handle, box, start, end); });
+        };
+        const Pixels one = fill(first, second);
+        const Pixels other = fill(second, first);
+        Pixels both = one;
+        both.insert(other.begin(), other.end());
+        if (one.size() + other.size() > both.size() + 1) {
+            return "they overlap";
+        }
+        const bool noLength = (first - second) % 3600 == 0;
+        return noLength ? "" : difference(both, within(CurveModel::oval(box).filled(), kCurveArea));
+    });
+}
+
+TEST_F(Pie, FillMeetsItsOutline) {
+    // From a filled pixel every step leads to a filled pixel or onto the outline.
+    forRandomCurves(500, [&](const CurveBox& curve) -> std::string {
+        const auto pixels = [&curve](bool filled) {
+            Drawing drawing(140, 140); // all of the box: a radius that is clipped moves a little
+            const GPoint origin{-20, -20};
+            GDSetLocalOrigin(drawing, &origin);
+            if (filled) {
+                GDSetPenColor(drawing, G_NO_COLOR);
+                GDSetFillAttribute(drawing, G_FILL_FORE, 1, 1);
+            }
+            drawPie(drawing, curve.box, curve.first, curve.second);
+            return pixelsOf(*drawing.surface());
+        };
+        const Pixels fill = pixels(true);
+        const Pixels outline = pixels(false);
+        for (const auto& [y, x] : fill) {
+            for (const Pixel& next :
+                 {Pixel{y - 1, x}, Pixel{y + 1, x}, Pixel{y, x - 1}, Pixel{y, x + 1}}) {
+                if (!outline.contains({y, x}) && !fill.contains(next) && !outline.contains(next)) {
+                    return "row " + std::to_string(y) + " column " + std::to_string(x);
+                }
+            }
+        }
+        return "";
+    });
+}
+
+TEST_F(Pie, WithoutFillStillHasArcAndRadii) {
+    Drawing drawing(41, 41);
+    drawPie(drawing, {0, 0, 40, 40}, 0, 900);
+    EXPECT_EQ(pixelAt(*drawing.surface(), 20, 20), 1U);
+    EXPECT_EQ(pixelAt(*drawing.surface(), 30, 20), 1U);
+    EXPECT_EQ(pixelAt(*drawing.surface(), 20, 10), 1U);
+    EXPECT_EQ(pixelAt(*drawing.surface(), 40, 20), 1U);
+    EXPECT_EQ(pixelAt(*drawing.surface(), 20, 0), 1U);
+    EXPECT_EQ(pixelAt(*drawing.surface(), 25, 15), 0U);
+    EXPECT_EQ(pixelAt(*drawing.surface(), 10, 20), 0U);
+}
+
+TEST_F(Pie, IsFilledInEveryStyle) {
+    Drawing drawing(41, 41);
+    GDSetPenColor(drawing, G_NO_COLOR);
+    const GRect box{0, 0, 40, 40};
+    GDSetFillAttribute(drawing, G_FILL_FORE, 3, 5);
+    drawPie(drawing, box, 0, 900);
+    EXPECT_EQ(pixelAt(*drawing.surface(), 25, 15), 3U);
+    GDSetFillPattern(drawing, G_FILL_BACK);
+    drawPie(drawing, box, 0, 900);
+    EXPECT_EQ(pixelAt(*drawing.surface(), 25, 15), 5U);
+    EXPECT_EQ(platform.count(69), 0U);
+    for (int16_t pattern = 0; pattern < G_FILL_PATTERN_COUNT; ++pattern) {
+        GDSetFillPattern(drawing, pattern);
+        drawPie(drawing, box, 0, 900);
+        for (int16_t x = 22; x < 30; ++x) {
+            const bool set = (drawing->fillPatterns[pattern][15 & 7] << (x & 7) & 0x80) != 0;
+            EXPECT_EQ(pixelAt(*drawing.surface(), x, 15), set ? 3U : 5U);
+        }
+    }
+    EXPECT_EQ(platform.count(69), size_t{G_FILL_PATTERN_COUNT});
+    GDSetFillAttribute(drawing, G_FILL_GRADATION, 7, 7);
+    drawPie(drawing, box, 0, 900);
+    EXPECT_NE(pixelAt(*drawing.surface(), 25, 15), 7U);
+    EXPECT_EQ(platform.count(69), size_t{G_FILL_PATTERN_COUNT});
+}
+
+TEST_F(Pie, LeavesItsEndsInTheHandle) {
+    Drawing drawing(60, 60);
+    const GPoint origin{7, 9};
+    GDSetLocalOrigin(drawing, &origin);
+    drawPie(drawing, {7, 9, 47, 49}, 0, 900);
+    EXPECT_EQ(drawing->arc.start.x, 47);
+    EXPECT_EQ(drawing->arc.start.y, 29);
+    EXPECT_EQ(drawing->arc.end.x, 27);
+    EXPECT_EQ(drawing->arc.end.y, 9);
+}
+
+} // namespace
