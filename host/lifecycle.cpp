@@ -14,6 +14,8 @@ GWord startPlatform(GWord configuration) {
             const auto source = file != nullptr ? SettingSource(file) : SettingSource::standard();
             const Settings settings = readSettings(source);
             self.heap.setDefaultLimit(static_cast<size_t>(settings.memoryLimit));
+            self.files = std::make_unique<FileStore<GFile>>(settings.files);
+            self.dataServer = std::make_unique<FileStore<GDataFile>>(settings.dataServer);
             self.screen = std::make_unique<Screen>(settings);
             self.ticks.set(0);
         }
@@ -35,7 +37,10 @@ GWord stopPlatform() {
         return 0;
     }
     const GWord kept = closeDisplay();
-    platform().screen.reset();
+    Platform& self = platform();
+    self.screen.reset();
+    self.dataServer.reset();
+    self.files.reset();
     return kept;
 }
 

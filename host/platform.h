@@ -4,7 +4,10 @@
 #include "clock/clock.h"
 #include "display/device_drawing.h"
 #include "display/display.h"
+#include "file/store.h"
 #include "memory/heap.h"
+
+#include <quarlo/data_server.h>
 
 #include <memory>
 
@@ -21,7 +24,9 @@ struct Screen {
 struct Platform {
     Heap heap;                      ///< works before the start and after the stop
     TickClock ticks;                ///< likewise
-    std::unique_ptr<Screen> screen; ///< null unless started
+    std::unique_ptr<Screen> screen; ///< null unless started, and so are those below
+    std::unique_ptr<FileStore<GFile>> files;
+    std::unique_ptr<FileStore<GDataFile>> dataServer;
 };
 
 /// The one platform. It outlives every other object of the process.

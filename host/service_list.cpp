@@ -1,7 +1,9 @@
 #include "service_list.h"
 
 #include "clock/services.h"
+#include "data_server/services.h"
 #include "display/services.h"
+#include "file/services.h"
 #include "lifecycle.h"
 #include "memory/services.h"
 
@@ -60,6 +62,32 @@ const Entry kServices[] = {
     offer<GPIBeginResetMemorySpace>(GPI_SERVICE_BEGIN_RESET_MEMORY_SPACE, beginResetMemorySpace),
     offer<GPIEndResetMemorySpace>(GPI_SERVICE_END_RESET_MEMORY_SPACE, endResetMemorySpace),
     offer<GPICancelResetMemorySpace>(GPI_SERVICE_CANCEL_RESET_MEMORY_SPACE, cancelResetMemorySpace),
+
+    offer<GPIOpenFile>(GPI_SERVICE_OPEN_FILE, openFile),
+    offer<GPICloseFile>(GPI_SERVICE_CLOSE_FILE, closeFile),
+    offer<GPIReadFile>(GPI_SERVICE_READ_FILE, readFile),
+    offer<GPIWriteFile>(GPI_SERVICE_WRITE_FILE, writeFile),
+    offer<GPISeekFile>(GPI_SERVICE_SEEK_FILE, seekFile),
+    offer<GPIMakePath>(GPI_SERVICE_MAKE_PATH, makePath),
+    offer<GPISplitPath>(GPI_SERVICE_SPLIT_PATH, splitPath),
+    offer<GPIReadLine>(GPI_SERVICE_READ_LINE, readLine),
+    offer<GPIGetDirectory>(GPI_SERVICE_GET_DIRECTORY, getDirectory),
+    offer<GPIReadByte>(GPI_SERVICE_READ_BYTE, readByte),
+    offer<GPIRenameFile>(GPI_SERVICE_RENAME_FILE, renameFile),
+    offer<GPIRemoveFile>(GPI_SERVICE_REMOVE_FILE, removeFile),
+    offer<GPIGetFileAccess>(GPI_SERVICE_GET_FILE_ACCESS, getFileAccess),
+    offer<GPIGetFileSize>(GPI_SERVICE_GET_FILE_SIZE, getFileSize),
+    offer<GPIFlushAndCloseFile>(GPI_SERVICE_FLUSH_AND_CLOSE_FILE, flushAndCloseFile),
+
+    offer<GPIOpenDataFile>(GPI_SERVICE_OPEN_DATA_FILE, openDataFile),
+    offer<GPIReadDataFile>(GPI_SERVICE_READ_DATA_FILE, readDataFile),
+    offer<GPICloseDataFile>(GPI_SERVICE_CLOSE_DATA_FILE, closeDataFile),
+    offer<GPISeekDataFile>(GPI_SERVICE_SEEK_DATA_FILE, seekDataFile),
+    offer<GPIGetDataFileSize>(GPI_SERVICE_GET_DATA_FILE_SIZE, getDataFileSize),
+    offer<GPIWriteDataFile>(GPI_SERVICE_WRITE_DATA_FILE, writeDataFile),
+    offer<GPIRenameDataFile>(GPI_SERVICE_RENAME_DATA_FILE, renameDataFile),
+    offer<GPIRemoveDataFile>(GPI_SERVICE_REMOVE_DATA_FILE, removeDataFile),
+    offer<GPICreateDataFile>(GPI_SERVICE_CREATE_DATA_FILE, createDataFile),
 };
 
 } // namespace

@@ -103,6 +103,8 @@ Settings readSettings(const SettingSource& source) {
     reader.number("QUARLO_SCALE", 1, 8, settings.scale);
     reader.text("QUARLO_TITLE", settings.title);
     reader.text("QUARLO_PNG", settings.png);
+    reader.text("QUARLO_FILES", settings.files);
+    reader.text("QUARLO_DATA_SERVER", settings.dataServer);
     reader.number("QUARLO_MEMORY_LIMIT", 0, std::numeric_limits<int32_t>::max(),
                   settings.memoryLimit);
     reader.reportUnknownNames();
