@@ -16,6 +16,7 @@ GWord startPlatform(GWord configuration) {
             self.heap.setDefaultLimit(static_cast<size_t>(settings.memoryLimit));
             self.files = std::make_unique<FileStore<GFile>>(settings.files);
             self.dataServer = std::make_unique<FileStore<GDataFile>>(settings.dataServer);
+            self.profiles = std::make_unique<Profiles>(settings.profiles, settings.userProfiles);
             self.screen = std::make_unique<Screen>(settings);
             self.ticks.set(0);
         }
@@ -39,6 +40,7 @@ GWord stopPlatform() {
     const GWord kept = closeDisplay();
     Platform& self = platform();
     self.screen.reset();
+    self.profiles.reset();
     self.dataServer.reset();
     self.files.reset();
     return kept;

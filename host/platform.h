@@ -6,6 +6,7 @@
 #include "display/display.h"
 #include "file/store.h"
 #include "memory/heap.h"
+#include "profile/profiles.h"
 
 #include <quarlo/data_server.h>
 
@@ -27,6 +28,7 @@ struct Platform {
     std::unique_ptr<Screen> screen; ///< null unless started, and so are those below
     std::unique_ptr<FileStore<GFile>> files;
     std::unique_ptr<FileStore<GDataFile>> dataServer;
+    std::unique_ptr<Profiles> profiles;
 };
 
 /// The one platform. It outlives every other object of the process.

@@ -6,6 +6,7 @@
 #include "file/services.h"
 #include "lifecycle.h"
 #include "memory/services.h"
+#include "profile/services.h"
 
 namespace gpi {
 namespace {
@@ -88,6 +89,12 @@ const Entry kServices[] = {
     offer<GPIRenameDataFile>(GPI_SERVICE_RENAME_DATA_FILE, renameDataFile),
     offer<GPIRemoveDataFile>(GPI_SERVICE_REMOVE_DATA_FILE, removeDataFile),
     offer<GPICreateDataFile>(GPI_SERVICE_CREATE_DATA_FILE, createDataFile),
+
+    offer<GPIGetProfileInt>(GPI_SERVICE_GET_PROFILE_INT, getProfileInt),
+    offer<GPIGetProfileString>(GPI_SERVICE_GET_PROFILE_STRING, getProfileString),
+    offer<GPISetProfileString>(GPI_SERVICE_SET_PROFILE_STRING, setProfileString),
+    offer<GPIGetProfileIntEx>(GPI_SERVICE_GET_PROFILE_INT_EX, getProfileIntEx),
+    offer<GPIGetProfileStringEx>(GPI_SERVICE_GET_PROFILE_STRING_EX, getProfileStringEx),
 };
 
 } // namespace

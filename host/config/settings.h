@@ -26,8 +26,10 @@ struct Settings {
     int scale = 1;                                ///< QUARLO_SCALE: of a new window, 1 to 8
     std::string title = "quarlo";                 ///< QUARLO_TITLE: of the window
     std::string png = "quarlo.png";               ///< QUARLO_PNG: path of the picture file
-    std::string files = ".";         ///< QUARLO_FILES: folder that holds the program's files
-    std::string dataServer = "data"; ///< QUARLO_DATA_SERVER: folder of the data server
+    std::string files = ".";           ///< QUARLO_FILES: folder that holds the program's files
+    std::string dataServer = "data";   ///< QUARLO_DATA_SERVER: folder of the data server
+    std::string profiles = "profiles"; ///< QUARLO_PROFILES: folder of the maker's
+    std::string userProfiles;          ///< QUARLO_USER_PROFILES: folder of the user's
     int32_t memoryLimit = 0; ///< QUARLO_MEMORY_LIMIT: bytes of a memory space, 0 for no limit
 };
 

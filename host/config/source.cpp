@@ -15,17 +15,17 @@ std::optional<std::string> environment(const std::string& name) {
     return value != nullptr && *value != '\0' ? std::optional<std::string>(value) : std::nullopt;
 }
 
-std::filesystem::path usualFile() {
+} // namespace
+
+std::filesystem::path userFolder(const std::string& name) {
     if (const auto folder = environment("XDG_CONFIG_HOME")) {
-        return std::filesystem::path(*folder) / "quarlo/host.conf";
+        return std::filesystem::path(*folder) / "quarlo" / name;
     }
     if (const auto home = environment("HOME")) {
-        return std::filesystem::path(*home) / ".config/quarlo/host.conf";
+        return std::filesystem::path(*home) / ".config/quarlo" / name;
     }
-    return {};
+    return std::filesystem::path("quarlo") / name;
 }
-
-} // namespace
 
 SettingSource::SettingSource(const std::filesystem::path& file) {
     CSimpleIniA ini(true);
@@ -44,7 +44,7 @@ SettingSource SettingSource::standard() {
     if (const auto named = environment("QUARLO_CONFIG")) {
         return SettingSource(*named);
     }
-    const auto usual = usualFile();
+    const auto usual = userFolder("host.conf");
     std::error_code failure;
     return std::filesystem::exists(usual, failure) ? SettingSource(usual) : SettingSource();
 }

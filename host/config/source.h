@@ -9,6 +9,10 @@
 
 namespace gpi {
 
+/// What the user keeps for this platform under a name: quarlo/NAME below XDG_CONFIG_HOME or
+/// ~/.config; in the current folder where neither is known.
+std::filesystem::path userFolder(const std::string& name);
+
 /// Settings by name, as text. An environment variable wins over the file's entry of its name; one
 /// that is empty counts as absent.
 class SettingSource {

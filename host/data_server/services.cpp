@@ -1,6 +1,6 @@
 #include "data_server/services.h"
 
-#include "data_server/file_lock.h"
+#include "file/lock.h"
 #include "file/folder.h"
 #include "platform.h"
 

@@ -1,4 +1,4 @@
-#include "data_server/file_lock.h"
+#include "file/lock.h"
 
 #include "file/error.h"
 
