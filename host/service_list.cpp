@@ -4,6 +4,7 @@
 #include "data_server/services.h"
 #include "display/services.h"
 #include "file/services.h"
+#include "jpeg/services.h"
 #include "lifecycle.h"
 #include "memory/services.h"
 #include "profile/services.h"
@@ -89,6 +90,9 @@ const Entry kServices[] = {
     offer<GPIRenameDataFile>(GPI_SERVICE_RENAME_DATA_FILE, renameDataFile),
     offer<GPIRemoveDataFile>(GPI_SERVICE_REMOVE_DATA_FILE, removeDataFile),
     offer<GPICreateDataFile>(GPI_SERVICE_CREATE_DATA_FILE, createDataFile),
+
+    offer<GPIGetJpegInfo>(GPI_SERVICE_GET_JPEG_INFO, getJpegInfo),
+    offer<GPILoadJpeg>(GPI_SERVICE_LOAD_JPEG, loadJpeg),
 
     offer<GPIGetProfileInt>(GPI_SERVICE_GET_PROFILE_INT, getProfileInt),
     offer<GPIGetProfileString>(GPI_SERVICE_GET_PROFILE_STRING, getProfileString),

@@ -18,4 +18,5 @@ need_packages() {
 }
 
 # What building the library and the host platform takes.
-build_packages="g++ cmake ninja-build pkg-config libsdl2-dev libpng-dev libsimpleini-dev"
+build_packages="g++ cmake ninja-build pkg-config libsdl2-dev libpng-dev libsimpleini-dev \
+    libturbojpeg0-dev"
