@@ -1,6 +1,7 @@
 // Traces a program from a literal and says what came of it in a readable form.
 #pragma once
 
+#include "gcode/arc.h"
 #include "model/path_tracer.h"
 
 #include <gtest/gtest.h>
@@ -11,6 +12,8 @@
 #include <string_view>
 
 namespace toolpath {
+
+using namespace gcode; // the tests speak of planes and codes
 
 struct Traced {
     ToolPath path;

@@ -1,19 +1,20 @@
 #include "model/path_tracer.h"
 
+#include "gcode/block_moves.h"
+
 #include <algorithm>
 #include <string>
 
 namespace toolpath {
-namespace {
 
-constexpr char kCentreLetters[] = {'I', 'J', 'K'};
+using gcode::CodeEffect;
+using gcode::Motion;
+using gcode::nameOf;
+
+namespace {
 
 // F, N, O, S and T move nothing; the rest are arguments of the motions that are drawn.
 constexpr std::string_view kKnownLetters = "FIJKLNOPQRSTXYZ";
-
-bool hasAxisWord(const Block& block) {
-    return block.has('X') || block.has('Y') || block.has('Z');
-}
 
 bool endsProgram(Code mCode) {
     return mCode == code(2) || mCode == code(30) || mCode == code(99);
@@ -84,19 +85,20 @@ void PathTracer::move(const Block& block) {
     switch (state_.motion) {
     case Motion::Rapid:
     case Motion::Line:
-        if (hasAxisWord(block)) {
+        if (gcode::hasAxisWord(block)) {
             const bool rapid = state_.motion == Motion::Rapid;
-            add(block, rapid ? MoveKind::Rapid : MoveKind::Cut, targetOf(block));
+            add(block, rapid ? MoveKind::Rapid : MoveKind::Cut,
+                gcode::targetOf(block, state_, path_.end()));
         }
         break;
     case Motion::ClockwiseArc:
     case Motion::CounterclockwiseArc:
-        if (hasAxisWord(block) || block.has('I') || block.has('J') || block.has('K')) {
-            moveAlongArc(block, targetOf(block));
+        if (gcode::movesAlongArc(block)) {
+            moveAlongArc(block, gcode::targetOf(block, state_, path_.end()));
         }
         break;
     case Motion::Cycle:
-        if (hasAxisWord(block) || block.has('R')) {
+        if (gcode::hasAxisWord(block) || block.has('R')) {
             drill(block);
         }
         break;
@@ -107,25 +109,14 @@ void PathTracer::move(const Block& block) {
 
 /// An arc that cannot be drawn leaves a gap: the path goes on at its end, positioned there.
 void PathTracer::moveAlongArc(const Block& block, const Point3& target) {
-    const Plane& plane = state_.plane;
-    const bool clockwise = state_.motion == Motion::ClockwiseArc;
-    const char first = kCentreLetters[plane.first];
-    const char second = kCentreLetters[plane.second];
     const Point3 start = path_.end();
-
-    std::optional<Arc> arc;
-    if (block.has('R')) {
-        const double radius = block.value('R') * state_.unit;
-        arc = arcOfRadius(plane, start, target, radius, clockwise);
-        if (arc && radiusFallsShort(plane, start, target, radius)) {
+    const auto arc = gcode::arcOf(block, state_, start, target);
+    if (arc && block.has('R')) {
+        if (gcode::radiusFallsShort(arc->plane, start, target, block.value('R') * state_.unit)) {
             remarks_.add(block.line, "an arc of too short a radius is drawn as a half circle");
         }
-    } else if (block.has(first) || block.has(second)) {
-        arc = arcAboutCentre(plane, start, target, block.value(first) * state_.unit,
-                             block.value(second) * state_.unit, clockwise);
-        if (arc && arc->isSpiral()) {
-            remarks_.add(block.line, "an arc that ends off its circle is drawn as a spiral");
-        }
+    } else if (arc && arc->isSpiral()) {
+        remarks_.add(block.line, "an arc that ends off its circle is drawn as a spiral");
     }
     if (block.has('P')) {
         remarks_.add(block.line, "P of an arc is not drawn");
@@ -143,22 +134,19 @@ void PathTracer::moveAlongArc(const Block& block, const Point3& target) {
 
 void PathTracer::drill(const Block& block) {
     cycle_.take(block, state_);
-    if (cycle_.complete()) {
-        cycle_.drill(block, state_, path_);
-    } else {
+    if (!cycle_.complete()) {
         remarks_.add(block.line, nameOf('G', state_.cycle) + " without its levels is not drawn");
+        return;
     }
-}
-
-Point3 PathTracer::targetOf(const Block& block) const {
-    Point3 target = path_.end();
-    for (const Axis axis : {kX, kY, kZ}) {
-        const char letter = kAxisLetters[axis];
-        if (block.has(letter)) {
-            target[axis] = state_.coordinate(target[axis], block.value(letter));
+    for (size_t left = gcode::holeCount(block); left > 0 && !path_.full(); --left) {
+        const auto moves = cycle_.hole(block, state_, path_.end());
+        if (moves.empty()) {
+            return;
+        }
+        for (const gcode::HoleMove& move : moves) {
+            add(block, move.drills ? MoveKind::Point : MoveKind::Rapid, move.end);
         }
     }
-    return target;
 }
 
 void PathTracer::add(const Block& block, MoveKind kind, const Point3& end) {

@@ -1,9 +1,8 @@
 // Follows a part program and records the path it makes the tool take.
 #pragma once
 
-#include "model/arc.h"
-#include "model/canned_cycles.h"
-#include "model/modal_state.h"
+#include "gcode/drilling_cycle.h"
+#include "gcode/modal_state.h"
 #include "model/program_reader.h"
 #include "model/remarks.h"
 #include "model/tool_path.h"
@@ -31,13 +30,12 @@ class PathTracer {
     void move(const Block& block);
     void moveAlongArc(const Block& block, const Point3& target);
     void drill(const Block& block);
-    Point3 targetOf(const Block& block) const;
     void add(const Block& block, MoveKind kind, const Point3& end);
 
     ToolPath& path_;
     Remarks& remarks_;
-    ModalState state_;
-    DrillingCycle cycle_;
+    gcode::ModalState state_;
+    gcode::DrillingCycle cycle_;
 };
 
 } // namespace toolpath

@@ -1,17 +1,19 @@
 // The path of a tool: what a part program makes it do, as straight moves in millimetres.
 #pragma once
 
-#include <array>
+#include "gcode/point.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <vector>
 
 namespace toolpath {
 
-enum Axis : uint8_t { kX, kY, kZ };
-
-/// A place in millimetres, indexed by Axis.
-using Point3 = std::array<double, 3>;
+using gcode::Axis;
+using gcode::kX;
+using gcode::kY;
+using gcode::kZ;
+using gcode::Point3;
 
 enum class MoveKind : uint8_t {
     Rapid, ///< positioning, out of the material

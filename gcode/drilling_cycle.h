@@ -1,13 +1,20 @@
 // The drilling cycles: which moves one of their blocks stands for.
 #pragma once
 
-#include "model/modal_state.h"
-#include "model/program_reader.h"
-#include "model/tool_path.h"
+#include "gcode/block.h"
+#include "gcode/modal_state.h"
 
+#include <cstddef>
 #include <optional>
+#include <vector>
 
-namespace toolpath {
+namespace gcode {
+
+/// A straight move of a drilling cycle.
+struct HoleMove {
+    Point3 end;
+    bool drills; ///< the plunge from the retract level to the bottom; the others are positioning
+};
 
 /// The words of a drilling cycle that stay in force from hole to hole, as they were programmed.
 struct DrillingCycle {
@@ -24,9 +31,14 @@ struct DrillingCycle {
     /// Whether it is known where a hole begins and ends.
     bool complete() const { return retract && bottom; }
 
-    /// Drills the holes of a block: to the place, to the R level, down, and back up; as often as L
-    /// or K says, each time on by the block's distances where these are incremental.
-    void drill(const Block& block, const ModalState& state, ToolPath& path) const;
+    /// The moves of a block's next hole that lead somewhere: to the place, to the R level, down,
+    /// and back up. The cycle must be complete.
+    std::vector<HoleMove> hole(const Block& block, const ModalState& state,
+                               const Point3& from) const;
 };
 
-} // namespace toolpath
+/// How many holes a block drills, by L or K, each on from the last by the block's distances where
+/// these are incremental. 0 only sets the cycle up.
+size_t holeCount(const Block& block);
+
+} // namespace gcode

@@ -1,13 +1,12 @@
 // Circular arcs and helices, and the chords that stand for them in a path.
 #pragma once
 
-#include "model/modal_state.h"
-#include "model/tool_path.h"
+#include "gcode/modal_state.h"
 
 #include <numbers>
 #include <optional>
 
-namespace toolpath {
+namespace gcode {
 
 /// No chord leaves its arc by more than this, in millimetres, up to the radius where chords of
 /// kSmallestStep do (1 m); beyond it by no more than a hundred thousandth of the radius.
@@ -49,4 +48,4 @@ std::optional<Arc> arcOfRadius(const Plane& plane, const Point3& start, const Po
 /// Whether a radius is too short to reach between two points by more than rounding explains.
 bool radiusFallsShort(const Plane& plane, const Point3& start, const Point3& end, double radius);
 
-} // namespace toolpath
+} // namespace gcode

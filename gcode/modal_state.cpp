@@ -1,9 +1,9 @@
-#include "model/modal_state.h"
+#include "gcode/modal_state.h"
 
 #include <algorithm>
 #include <iterator>
 
-namespace toolpath {
+namespace gcode {
 namespace {
 
 /// Codes from first to last.
@@ -114,13 +114,4 @@ bool ModalState::setMode(Code gCode) {
     }
 }
 
-std::string nameOf(char letter, Code number) {
-    std::string name = letter + std::to_string(number / 10);
-    if (number % 10 != 0) {
-        name += '.';
-        name += std::to_string(number % 10);
-    }
-    return name;
-}
-
-} // namespace toolpath
+} // namespace gcode

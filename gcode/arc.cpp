@@ -1,9 +1,9 @@
-#include "model/arc.h"
+#include "gcode/arc.h"
 
 #include <algorithm>
 #include <cmath>
 
-namespace toolpath {
+namespace gcode {
 namespace {
 
 constexpr double kTurn = 2.0 * std::numbers::pi;
@@ -105,4 +105,4 @@ Point3 Arc::chordEnd(int index, int count) const {
     return point;
 }
 
-} // namespace toolpath
+} // namespace gcode

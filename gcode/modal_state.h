@@ -1,13 +1,12 @@
 // The modes that stay set from block to block.
 #pragma once
 
-#include "model/program_reader.h"
-#include "model/tool_path.h"
+#include "gcode/block.h"
+#include "gcode/point.h"
 
 #include <cstdint>
-#include <string>
 
-namespace toolpath {
+namespace gcode {
 
 enum class Motion : uint8_t {
     Rapid,
@@ -25,9 +24,6 @@ struct Plane {
     Axis second;
     Axis normal;
 };
-
-/// The words that move an Axis.
-inline constexpr char kAxisLetters[] = {'X', 'Y', 'Z'};
 
 inline constexpr Plane kPlaneXY{kX, kY, kZ};
 inline constexpr Plane kPlaneZX{kZ, kX, kY};
@@ -60,7 +56,4 @@ struct ModalState {
     bool setMode(Code gCode);
 };
 
-/// "G41", "G38.2"
-std::string nameOf(char letter, Code number);
-
-} // namespace toolpath
+} // namespace gcode
