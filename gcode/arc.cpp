@@ -91,11 +91,7 @@ int Arc::chordCount() const {
     return std::max(1, static_cast<int>(std::ceil(std::abs(sweep) / step)));
 }
 
-Point3 Arc::chordEnd(int index, int count) const {
-    if (index >= count) {
-        return end;
-    }
-    const double part = static_cast<double>(index) / count;
+Point3 Arc::at(double part) const {
     const double angle = startAngle + sweep * part;
     const double radius = startRadius + (endRadius - startRadius) * part;
     Point3 point;
@@ -103,6 +99,10 @@ Point3 Arc::chordEnd(int index, int count) const {
     point[plane.second] = centreSecond + radius * std::sin(angle);
     point[plane.normal] = start[plane.normal] + (end[plane.normal] - start[plane.normal]) * part;
     return point;
+}
+
+Point3 Arc::chordEnd(int index, int count) const {
+    return index >= count ? end : at(static_cast<double>(index) / count);
 }
 
 } // namespace gcode

@@ -27,6 +27,8 @@ struct Arc {
     double startAngle; ///< radians, counterclockwise from the first axis
     double sweep;      ///< radians, negative for clockwise; a whole turn where start meets end
 
+    /// The place at a part of the sweep, from 0 to 1.
+    Point3 at(double part) const;
     int chordCount() const;
     /// The end of chord `index`, 1 to chordCount(); that of the last is `end` itself.
     Point3 chordEnd(int index, int count) const;

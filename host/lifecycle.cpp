@@ -1,6 +1,7 @@
 #include "lifecycle.h"
 
 #include "guard.h"
+#include "nc/make_controller.h"
 #include "platform.h"
 
 namespace gpi {
@@ -18,6 +19,7 @@ GWord startPlatform(GWord configuration) {
             self.dataServer = std::make_unique<FileStore<GDataFile>>(settings.dataServer);
             self.profiles = std::make_unique<Profiles>(settings.profiles, settings.userProfiles);
             self.screen = std::make_unique<Screen>(settings);
+            self.controller = nc::makeController(settings);
             self.ticks.set(0);
         }
         return GWord{1};
@@ -41,6 +43,7 @@ GWord stopPlatform() {
     Platform& self = platform();
     self.screen.reset();
     self.profiles.reset();
+    self.controller.reset();
     self.dataServer.reset();
     self.files.reset();
     return kept;

@@ -6,6 +6,7 @@
 #include "display/display.h"
 #include "file/store.h"
 #include "memory/heap.h"
+#include "nc/controller.h"
 #include "profile/profiles.h"
 
 #include <quarlo/data_server.h>
@@ -29,6 +30,7 @@ struct Platform {
     std::unique_ptr<FileStore<GFile>> files;
     std::unique_ptr<FileStore<GDataFile>> dataServer;
     std::unique_ptr<Profiles> profiles;
+    std::unique_ptr<nc::Controller> controller;
 };
 
 /// The one platform. It outlives every other object of the process.

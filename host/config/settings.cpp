@@ -108,6 +108,10 @@ Settings readSettings(const SettingSource& source) {
     reader.text("QUARLO_PROFILES", settings.profiles);
     settings.userProfiles = userFolder("profiles").string();
     reader.text("QUARLO_USER_PROFILES", settings.userProfiles);
+    reader.choice<ControlKind>("QUARLO_NC",
+                               {{"sim", ControlKind::Sim}, {"linuxcnc", ControlKind::LinuxCnc}},
+                               settings.control);
+    reader.text("QUARLO_NC_HELPER", settings.controlHelper);
     reader.number("QUARLO_MEMORY_LIMIT", 0, std::numeric_limits<int32_t>::max(),
                   settings.memoryLimit);
     reader.reportUnknownNames();

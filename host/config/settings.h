@@ -17,6 +17,12 @@ enum class DisplayKind {
     Png        ///< a picture file, written at the end
 };
 
+/// Which control the numerical-control data come from.
+enum class ControlKind {
+    Sim,     ///< the one inside the platform
+    LinuxCnc ///< LinuxCNC on this computer
+};
+
 /// The settings with their defaults. The comment behind each names its variable.
 struct Settings {
     DisplayKind display = DisplayKind::Automatic; ///< QUARLO_DISPLAY: sdl, memory, png
@@ -26,10 +32,12 @@ struct Settings {
     int scale = 1;                                ///< QUARLO_SCALE: of a new window, 1 to 8
     std::string title = "quarlo";                 ///< QUARLO_TITLE: of the window
     std::string png = "quarlo.png";               ///< QUARLO_PNG: path of the picture file
-    std::string files = ".";           ///< QUARLO_FILES: folder that holds the program's files
-    std::string dataServer = "data";   ///< QUARLO_DATA_SERVER: folder of the data server
-    std::string profiles = "profiles"; ///< QUARLO_PROFILES: folder of the maker's
-    std::string userProfiles;          ///< QUARLO_USER_PROFILES: folder of the user's
+    std::string files = ".";                ///< QUARLO_FILES: folder that holds the program's files
+    std::string dataServer = "data";        ///< QUARLO_DATA_SERVER: folder of the data server
+    std::string profiles = "profiles";      ///< QUARLO_PROFILES: folder of the maker's
+    std::string userProfiles;               ///< QUARLO_USER_PROFILES: folder of the user's
+    ControlKind control = ControlKind::Sim; ///< QUARLO_NC: sim, linuxcnc
+    std::string controlHelper;              ///< QUARLO_NC_HELPER: program that speaks to LinuxCNC
     int32_t memoryLimit = 0; ///< QUARLO_MEMORY_LIMIT: bytes of a memory space, 0 for no limit
 };
 

@@ -6,8 +6,9 @@ Environment::Values settings(const Environment::Values& changes) {
     Environment::Values values = {{"QUARLO_CONFIG", std::nullopt},
                                   {"XDG_CONFIG_HOME", "/nonexistent"},
                                   {"QUARLO_DISPLAY", "memory"}};
-    for (const char* name : {"QUARLO_WIDTH", "QUARLO_HEIGHT", "QUARLO_FORMAT", "QUARLO_SCALE",
-                             "QUARLO_TITLE", "QUARLO_PNG", "QUARLO_MEMORY_LIMIT"}) {
+    for (const char* name :
+         {"QUARLO_WIDTH", "QUARLO_HEIGHT", "QUARLO_FORMAT", "QUARLO_SCALE", "QUARLO_TITLE",
+          "QUARLO_NC", "QUARLO_NC_HELPER", "QUARLO_PNG", "QUARLO_MEMORY_LIMIT"}) {
         values[name] = std::nullopt;
     }
     for (const auto& [name, value] : changes) {
