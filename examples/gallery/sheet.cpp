@@ -16,6 +16,7 @@ const std::vector<Sheet>& sheets() {
         {"gradations", "GRADATIONS", "RAMPS OF UP TO 256 BANDS", drawGradationFigures},
         {"borders", "BORDERS", "RAISED AND SUNKEN", drawBorderFigures},
         {"polygons", "POLYGONS", "FILLED BY THE EVEN-ODD RULE", drawPolygonFigures},
+        {"beziers", "BEZIER CURVES", "FOUR POINTS, AT MOST 63 LINES", drawBezierFigures},
         {"modes", "DRAWING MODES", "OLD AND NEW PIXELS, BIT BY BIT", drawModeFigures},
         {"formats", "PIXEL FORMATS", "8, 16 AND 24 BITS, AND PALETTES", drawFormatFigures},
         {"clipping", "CLIPPING AND MAPPING", "WHERE DRAWING GOES", drawClippingFigures},

@@ -14,6 +14,7 @@ void drawPatternFigures(GDrawHandle* handle);
 void drawGradationFigures(GDrawHandle* handle);
 void drawBorderFigures(GDrawHandle* handle);
 void drawPolygonFigures(GDrawHandle* handle);
+void drawBezierFigures(GDrawHandle* handle);
 void drawModeFigures(GDrawHandle* handle);
 void drawFormatFigures(GDrawHandle* handle);
 void drawClippingFigures(GDrawHandle* handle);
