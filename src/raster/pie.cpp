@@ -56,6 +56,10 @@ void drawRadii(const Canvas& canvas, const Ellipse& ellipse, const ArcSpan& arc)
     const GPoint other = isWide(canvas.handle) ? centre : centreOf(ellipse, arc.end);
     drawSolidLine(canvas, {start.x, start.y, centre.x, centre.y});
     drawSolidLine(canvas, {other.x, other.y, end.x, end.y});
+    if (isWide(canvas.handle) && canvas.handle.penJoin == G_JOIN_ROUND) {
+        drawRoundJoin(canvas, start);
+        drawRoundJoin(canvas, end);
+    }
 }
 
 } // namespace

@@ -120,18 +120,6 @@ void bevel(const Canvas& canvas, const GPoint previous[2], const GPoint start[2]
     fillQuad(canvas, corners, kJoinPattern);
 }
 
-/// An ellipse of the pen's size.
-void roundOff(const Canvas& canvas, const GPoint& at) {
-    const GDrawHandle& handle = canvas.handle;
-    const Reach x(handle.penWidth);
-    const Reach y(handle.penHeight);
-    const GRect box{saturated(at.x - x.before), saturated(at.y - y.before),
-                    saturated(at.x + x.behind), saturated(at.y + y.behind)};
-    const uint32_t pixel = handle.penPixel;
-    fillEllipse(canvas, {box, x.before, y.before},
-                {pixel, pixel, handle.fillPatterns[kJoinPattern]}, handle.drawingMode);
-}
-
 void join(const Canvas& canvas, const GPoint& at, const GPoint start[2]) {
     const GDrawHandle& handle = canvas.handle;
     const GWideLineState& state = handle.wideLine;
@@ -143,11 +131,22 @@ void join(const Canvas& canvas, const GPoint& at, const GPoint start[2]) {
     if (handle.penJoin == G_JOIN_BEVEL) {
         bevel(canvas, state.previous, start);
     } else if (handle.penJoin == G_JOIN_ROUND) {
-        roundOff(canvas, at);
+        drawRoundJoin(canvas, at);
     }
 }
 
 } // namespace
+
+void drawRoundJoin(const Canvas& canvas, const GPoint& at) {
+    const GDrawHandle& handle = canvas.handle;
+    const Reach x(handle.penWidth);
+    const Reach y(handle.penHeight);
+    const GRect box{saturated(at.x - x.before), saturated(at.y - y.before),
+                    saturated(at.x + x.behind), saturated(at.y + y.behind)};
+    const uint32_t pixel = handle.penPixel;
+    fillEllipse(canvas, {box, x.before, y.before},
+                {pixel, pixel, handle.fillPatterns[kJoinPattern]}, handle.drawingMode);
+}
 
 void drawWideLine(const Canvas& canvas, const GLine& line) {
     GWideLineState& state = canvas.handle.wideLine;
