@@ -1,24 +1,35 @@
 // Arcs.
-#include "geometry/view.h"
-#include "raster/outline.h"
+#include "raster/arc.h"
+#include "raster/thin_arc.h"
+#include "raster/wide_line.h"
 
 #include <quarlo/draw.h>
+
+namespace quarlo {
+
+void drawArc(const Canvas& canvas, const Ellipse& ellipse, const ArcSpan& arc, uint32_t pixel,
+             int32_t mode) {
+    if (isWide(canvas.handle)) {
+        const Sector sector(ellipse, arc);
+        drawWideOutline(canvas, ellipse, Sides::None, &sector, pixel, mode);
+        return;
+    }
+    SpanPainter painter(canvas, Paint::solid(pixel), mode);
+    ThinArc(ellipse, arc, ThinArc::Tips::Once).walk([&](RowRuns& runs, int32_t row) {
+        runs.paint(painter, row);
+    });
+}
+
+} // namespace quarlo
 
 using namespace quarlo;
 
 void GDDrawArc(GDrawHandle* handle, const GRect* rect, int16_t startAngle, int16_t endAngle) {
-    GRect box = *rect;
-    mapToScreen(*handle, box);
-    const Canvas canvas(*handle);
-    const Ellipse ellipse = Ellipse::inscribed(box);
-    if (isValid(canvas.area) && !areDisjoint(box, canvas.area) && ellipse.a >= 0 &&
-        ellipse.b >= 0) {
-        const ArcSpan arc = findArc(handle->arc, ellipse, startAngle, endAngle);
-        if (handle->penPixel != G_NO_COLOR) {
-            drawArc(canvas, ellipse, arc, handle->penPixel, handle->drawingMode);
-        }
-    }
-    // Also what an arc before this one left is taken for surface coordinates, deliberately.
-    mapFromScreen(*handle, handle->arc.start);
-    mapFromScreen(*handle, handle->arc.end);
+    withArc(*handle, *rect, startAngle, endAngle,
+            [](const Canvas& canvas, const Ellipse& ellipse, const ArcSpan& arc) {
+                const GDrawHandle& pen = canvas.handle;
+                if (pen.penPixel != G_NO_COLOR) {
+                    drawArc(canvas, ellipse, arc, pen.penPixel, pen.drawingMode);
+                }
+            });
 }

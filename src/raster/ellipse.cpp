@@ -13,10 +13,7 @@ void describeFill(GEllipseState& state, const Ellipse& ellipse, const Paint& pai
     state.back = paint.back;
     state.mode = static_cast<uint16_t>(mode);
     state.rows = paint.rows;
-    state.leftCentre = low16(ellipse.leftCentre);
-    state.rightCentre = low16(ellipse.rightCentre);
-    state.topCentre = low16(ellipse.topCentre);
-    state.bottomCentre = low16(ellipse.bottomCentre);
+    leaveCentres(state, ellipse);
 }
 
 /// Calls action(left, right, y) for the visible part of every row.
@@ -48,6 +45,13 @@ void paintAcross(const Canvas& canvas, const Ramp& ramp, int32_t start, int32_t 
 }
 
 } // namespace
+
+void leaveCentres(GEllipseState& state, const Ellipse& ellipse) {
+    state.leftCentre = low16(ellipse.leftCentre);
+    state.rightCentre = low16(ellipse.rightCentre);
+    state.topCentre = low16(ellipse.topCentre);
+    state.bottomCentre = low16(ellipse.bottomCentre);
+}
 
 void fillEllipse(const Canvas& canvas, const Ellipse& ellipse, const Paint& paint, int32_t mode) {
     describeFill(canvas.handle.ellipse, ellipse, paint, mode);

@@ -96,6 +96,9 @@ void walkRows(const Ellipse& ellipse, const Row& row) {
     }
 }
 
+/// Notes the centres in the handle's record of the ellipse drawn last.
+void leaveCentres(GEllipseState& state, const Ellipse& ellipse);
+
 /// Fills an ellipse. Its description stands in the handle while it lasts.
 void fillEllipse(const Canvas& canvas, const Ellipse& ellipse, const Paint& paint, int32_t mode);
 

@@ -41,6 +41,10 @@ void drawOutline(const Canvas& canvas, const Ellipse& ellipse, Sides sides, uint
 void drawArc(const Canvas& canvas, const Ellipse& ellipse, const ArcSpan& arc, uint32_t pixel,
              int32_t mode);
 
+/// Draws the same arc and the radii to its ends. A thin outline has each pixel once.
+void drawSectorOutline(const Canvas& canvas, const Ellipse& ellipse, const ArcSpan& arc,
+                       uint32_t pixel, int32_t mode);
+
 /// The ring alone, or its part in a sector.
 void drawWideOutline(const Canvas& canvas, const Ellipse& ellipse, Sides sides,
                      const Sector* sector, uint32_t pixel, int32_t mode);

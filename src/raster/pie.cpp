@@ -1,11 +1,9 @@
 // Pies.
-#include "geometry/view.h"
+#include "raster/arc.h"
 #include "raster/fill_notice.h"
-#include "raster/line.h"
 #include "raster/outline.h"
 #include "raster/polygon.h"
 #include "raster/run_table.h"
-#include "raster/wide_line.h"
 
 #include <quarlo/draw.h>
 
@@ -42,46 +40,18 @@ void fillByStyle(const Canvas& canvas, const Ellipse& ellipse, const ArcSpan& ar
     }
 }
 
-/// The centre pixel of an end's quarter.
-GPoint centreOf(const Ellipse& ellipse, const ArcEnd& end) {
-    return ArcEnd{end.quadrant, 0, 0}.on(ellipse);
-}
-
-/// From the arc's start to the centre and on to its end, so that wide radii are joined there.
-void drawRadii(const Canvas& canvas, const Ellipse& ellipse, const ArcSpan& arc) {
-    const GPoint start = arc.start.on(ellipse);
-    const GPoint end = arc.end.on(ellipse);
-    const GPoint centre = centreOf(ellipse, arc.start);
-    // The ellipse may have centres side by side. A wide pen covers both.
-    const GPoint other = isWide(canvas.handle) ? centre : centreOf(ellipse, arc.end);
-    drawSolidLine(canvas, {start.x, start.y, centre.x, centre.y});
-    drawSolidLine(canvas, {other.x, other.y, end.x, end.y});
-    if (isWide(canvas.handle) && canvas.handle.penJoin == G_JOIN_ROUND) {
-        drawRoundJoin(canvas, start);
-        drawRoundJoin(canvas, end);
-    }
-}
-
 } // namespace
 } // namespace quarlo
 
 using namespace quarlo;
 
 void GDDrawPie(GDrawHandle* handle, const GRect* rect, int16_t startAngle, int16_t endAngle) {
-    GRect box = *rect;
-    mapToScreen(*handle, box);
-    const Canvas canvas(*handle);
-    const Ellipse ellipse = Ellipse::inscribed(box);
-    if (isValid(canvas.area) && !areDisjoint(box, canvas.area) && ellipse.a >= 0 &&
-        ellipse.b >= 0) {
-        const ArcSpan arc = findArc(handle->arc, ellipse, startAngle, endAngle);
-        fillByStyle(canvas, ellipse, arc);
-        if (handle->penPixel != G_NO_COLOR) {
-            drawArc(canvas, ellipse, arc, handle->penPixel, handle->drawingMode);
-            drawRadii(canvas, ellipse, arc);
-        }
-    }
-    // Also what an arc before this one left is taken for surface coordinates, deliberately.
-    mapFromScreen(*handle, handle->arc.start);
-    mapFromScreen(*handle, handle->arc.end);
+    withArc(*handle, *rect, startAngle, endAngle,
+            [](const Canvas& canvas, const Ellipse& ellipse, const ArcSpan& arc) {
+                const GDrawHandle& pen = canvas.handle;
+                fillByStyle(canvas, ellipse, arc);
+                if (pen.penPixel != G_NO_COLOR) {
+                    drawSectorOutline(canvas, ellipse, arc, pen.penPixel, pen.drawingMode);
+                }
+            });
 }

@@ -131,13 +131,13 @@ void join(const Canvas& canvas, const GPoint& at, const GPoint start[2]) {
     if (handle.penJoin == G_JOIN_BEVEL) {
         bevel(canvas, state.previous, start);
     } else if (handle.penJoin == G_JOIN_ROUND) {
-        drawRoundJoin(canvas, at);
+        drawPenDot(canvas, at);
     }
 }
 
 } // namespace
 
-void drawRoundJoin(const Canvas& canvas, const GPoint& at) {
+void drawPenDot(const Canvas& canvas, const GPoint& at) {
     const GDrawHandle& handle = canvas.handle;
     const Reach x(handle.penWidth);
     const Reach y(handle.penHeight);

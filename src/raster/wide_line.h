@@ -15,8 +15,8 @@ inline bool isWide(const GDrawHandle& handle) {
 /// where it starts at that one's end. A line without length draws nothing and is forgotten.
 void drawWideLine(const Canvas& canvas, const GLine& line);
 
-/// Fills an ellipse of the pen's size in pen colour.
-void drawRoundJoin(const Canvas& canvas, const GPoint& at);
+/// Fills an ellipse of the pen's size around a point, in pen colour.
+void drawPenDot(const Canvas& canvas, const GPoint& at);
 
 /// Joins the last wide line to the first of a closed frame, where they meet.
 void closeFrame(const Canvas& canvas, const GLine& first);

@@ -68,6 +68,15 @@ TEST_F(Arc, LeavesItsEndsInTheHandle) {
     EXPECT_EQ(drawing->arc.inverseSlope, 20 * 65536);
 }
 
+TEST_F(Arc, LeavesItsCentresInTheHandle) {
+    Drawing drawing(60, 40);
+    drawArc(drawing, {10, 5, 49, 35}, 0, 900);
+    EXPECT_EQ(drawing->ellipse.leftCentre, 29);
+    EXPECT_EQ(drawing->ellipse.rightCentre, 30);
+    EXPECT_EQ(drawing->ellipse.topCentre, 20);
+    EXPECT_EQ(drawing->ellipse.bottomCentre, 20);
+}
+
 TEST_F(Arc, FindsItsEndsAsThePlainSteps) {
     for (const GRect& box : {kBox, GRect{10, 5, 49, 34}, GRect{0, 0, 63, 7}, GRect{3, 0, 9, 47},
                              GRect{5, 5, 5, 5}, GRect{5, 5, 6, 9}, GRect{-300, -200, 320, 250}}) {
@@ -145,6 +154,36 @@ TEST_F(Arc, AndTheRestOfTheTurnAreTheWholeOutline) {
         // longer one all of the outline.
         return difference(both, within(CurveModel::oval(box).outline(), kCurveArea));
     });
+}
+
+TEST_F(Arc, EndToEndWithAnotherSharesOnePixelAtMost) {
+    // Also where the outline is so narrow that it runs out to an axis and back on itself.
+    Random random(testSeed());
+    for (int round = 0; round < 2000; ++round) {
+        const auto width = static_cast<int16_t>(random.between(0, random.oneIn(2) ? 5 : 60));
+        const auto height = static_cast<int16_t>(random.between(0, random.oneIn(2) ? 5 : 45));
+        const GRect box{1, 1, static_cast<int16_t>(1 + width), static_cast<int16_t>(1 + height)};
+        const auto angle = [&random](int32_t low, int32_t high) {
+            return random.oneIn(2) ? random.between((low + 899) / 900, high / 900) * 900
+                                   : random.between(low, high);
+        };
+        const int32_t start = angle(0, 3600);
+        const int32_t middle = angle(start + 1, start + 900);
+        const int32_t end = angle(middle + 1, middle + 900);
+        const auto arc = [&box](int32_t from, int32_t to) {
+            return painted([&](GDrawHandle* handle) { drawArc(handle, box, from, to); });
+        };
+        const Pixels first = arc(start, middle);
+        const Pixels second = arc(middle, end);
+        Pixels both = first;
+        both.insert(second.begin(), second.end());
+        ASSERT_LE(first.size() + second.size(), both.size() + 1)
+            << width + 1 << " x " << height + 1 << " pixels, angles " << start << ", " << middle
+            << ", " << end;
+        ASSERT_EQ(difference(both, arc(start, end)), "")
+            << width + 1 << " x " << height + 1 << " pixels, angles " << start << ", " << middle
+            << ", " << end;
+    }
 }
 
 TEST_F(Arc, WithAWidePenAndTheRestAreTheWholeRing) {

@@ -1,6 +1,9 @@
+#include "geometry/geometry.h"
 #include "raster/curve_test.h"
 
 #include <quarlo/draw.h>
+
+#include <vector>
 
 using namespace quarlo;
 using namespace quarlo::test;
@@ -11,6 +14,33 @@ class Pie : public RasterTest {};
 
 void drawPie(GDrawHandle* handle, const GRect& box, int32_t start, int32_t end) {
     GDDrawPie(handle, &box, static_cast<int16_t>(start), static_cast<int16_t>(end));
+}
+
+/// What the outline covers, however often.
+Pixels outlineOf(const GRect& box, int32_t start, int32_t end, int16_t pen = 1) {
+    Drawing drawing(kCurveWidth, kCurveHeight);
+    GDSetPenSize(drawing, pen, pen);
+    drawPie(drawing, box, start, end);
+    return pixelsOf(*drawing.surface());
+}
+
+/// The pixels that can be reached from the corner of a larger area without crossing others.
+Pixels outsideOf(const Pixels& wall) {
+    const GRect area{-1, -1, kCurveWidth, kCurveHeight};
+    Pixels reached{{-1, -1}};
+    for (std::vector<Pixel> open{{-1, -1}}; !open.empty();) {
+        const auto [y, x] = open.back();
+        open.pop_back();
+        for (const Pixel& next :
+             {Pixel{y - 1, x}, Pixel{y + 1, x}, Pixel{y, x - 1}, Pixel{y, x + 1}}) {
+            if (within({next}, area).empty() || wall.contains(next) || reached.contains(next)) {
+                continue;
+            }
+            reached.insert(next);
+            open.push_back(next);
+        }
+    }
+    return reached;
 }
 
 TEST_F(Pie, OfFourQuartersIsTheOval) {
@@ -77,6 +107,70 @@ TEST_F(Pie, FillMeetsItsOutline) {
         }
         return "";
     });
+}
+
+TEST_F(Pie, OutlineEnclosesItsFill) {
+    forRandomCurves(400, [&](const CurveBox& curve) -> std::string {
+        const auto& [box, first, second, pen] = curve;
+        if (!contains(kCurveArea, box)) {
+            return ""; // the surface's edge cuts the outline open
+        }
+        const Pixels fill =
+            filledBy([&box = box, first = first, second = second](GDrawHandle* handle) {
+                drawPie(handle, box, first, second);
+            });
+        const Pixels outside = outsideOf(outlineOf(box, first, second));
+        for (const auto& [y, x] : fill) {
+            if (outside.contains({y, x})) {
+                return "row " + std::to_string(y) + " column " + std::to_string(x);
+            }
+        }
+        return "";
+    });
+}
+
+TEST_F(Pie, HasEachPixelOfAThinOutlineOnce) {
+    forRandomCurves(600, [&](const CurveBox& curve) -> std::string {
+        const auto& [box, first, second, pen] = curve;
+        const Pixels once =
+            painted([&box = box, first = first, second = second](GDrawHandle* handle) {
+                drawPie(handle, box, first, second);
+            });
+        return difference(once, outlineOf(box, first, second));
+    });
+}
+
+TEST_F(Pie, ThinOutlineIsTheArcAndTwoLines) {
+    const GRect box{5, 4, 45, 34};
+    for (const auto& [start, end] : {std::pair{0, 900}, {450, 1350}, {1000, 3000}, {2700, 100}}) {
+        Drawing drawing(kCurveWidth, kCurveHeight);
+        GDDrawArc(drawing, &box, static_cast<int16_t>(start), static_cast<int16_t>(end));
+        const GArcState arc = drawing->arc;
+        drawLine(drawing, 25, 19, arc.start.x, arc.start.y);
+        drawLine(drawing, 25, 19, arc.end.x, arc.end.y);
+        EXPECT_EQ(difference(outlineOf(box, start, end), pixelsOf(*drawing.surface())), "");
+    }
+}
+
+TEST_F(Pie, OfAWidePenHasNoNotchWhereItsRadiiMeetTheArc) {
+    constexpr int16_t kPen = 9;
+    constexpr int32_t kReach = kPen / 2 - 1;
+    const GRect box{12, 6, 52, 40};
+    for (int32_t start = 0; start < 3600; start += 70) {
+        Drawing drawing(kCurveWidth, kCurveHeight);
+        GDSetPenSize(drawing, kPen, kPen);
+        drawPie(drawing, box, start, start + 1000);
+        for (const GPoint& corner : {drawing->arc.start, drawing->arc.end}) {
+            for (int32_t y = -kReach; y <= kReach; ++y) {
+                for (int32_t x = -kReach; x <= kReach; ++x) {
+                    if (x * x + y * y <= kReach * kReach) {
+                        ASSERT_EQ(pixelAt(*drawing.surface(), corner.x + x, corner.y + y), 1U)
+                            << start << ": " << x << ", " << y << " from a corner";
+                    }
+                }
+            }
+        }
+    }
 }
 
 TEST_F(Pie, WithoutFillStillHasArcAndRadii) {

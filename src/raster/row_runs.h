@@ -1,0 +1,39 @@
+// The runs of one row.
+#pragma once
+
+#include "raster/sector.h"
+#include "raster/span_painter.h"
+
+#include <algorithm>
+#include <cstdint>
+
+namespace quarlo {
+
+/// Runs of columns that may overlap; painted from left to right, each pixel once.
+class RowRuns {
+  public:
+    static constexpr int32_t kMost = 10; ///< two of each quarter of an arc, and two radii
+
+    /// Adds a run; nothing when its ends stand the other way.
+    void add(int32_t left, int32_t right) {
+        if (left <= right) {
+            runs_[count_++] = {left, right};
+        }
+    }
+
+    void paint(SpanPainter& painter, int32_t y) {
+        std::sort(runs_, runs_ + count_,
+                  [](const ColumnRun& a, const ColumnRun& b) { return a.left < b.left; });
+        int32_t next = INT32_MIN;
+        for (int32_t i = 0; i < count_; ++i) {
+            painter.add(std::max(runs_[i].left, next), runs_[i].right, y);
+            next = std::max(next, runs_[i].right + 1);
+        }
+    }
+
+  private:
+    ColumnRun runs_[kMost];
+    int32_t count_ = 0;
+};
+
+} // namespace quarlo
