@@ -1,13 +1,8 @@
 // Services 200 to 206 as a panel has them, on the control that runs by default.
-#include "support/started_platform.h"
-
-#include <gpi/forwards.h>
-#include <gpi/nc.h>
-#include <quarlo/nc_data.h>
+#include "panel.h"
 
 #include <gtest/gtest.h>
 
-#include <chrono>
 #include <cmath>
 #include <filesystem>
 #include <string>
@@ -17,44 +12,7 @@
 namespace {
 
 using namespace gpi::test;
-
-const auto setValue = service<GPISetNCValue>(GPI_SERVICE_SET_NC_VALUE);
-const auto getValue = service<GPIGetNCValue>(GPI_SERVICE_GET_NC_VALUE);
-const auto setString = service<GPISetNCString>(GPI_SERVICE_SET_NC_STRING);
-const auto getString = service<GPIGetNCString>(GPI_SERVICE_GET_NC_STRING);
-const auto isUnset = service<GPIIsNCValueUnset>(GPI_SERVICE_IS_NC_VALUE_UNSET);
-const auto setSystem = service<GPISetNCSystemValue>(GPI_SERVICE_SET_NC_SYSTEM_VALUE);
-const auto getSystem = service<GPIGetNCSystemValue>(GPI_SERVICE_GET_NC_SYSTEM_VALUE);
-
-double value(int32_t area, int32_t number = 0, int32_t index = 0) {
-    double found = 0.0;
-    EXPECT_EQ(getValue(1, area, number, index, &found), 1);
-    return found;
-}
-
-int32_t system(int32_t number) {
-    int32_t found = 0;
-    EXPECT_EQ(getSystem(number, &found), 1);
-    return found;
-}
-
-std::u16string text(int32_t string, int32_t number = 0) {
-    char16_t found[300];
-    EXPECT_EQ(getString(1, string, number, found, 300), 1);
-    return found;
-}
-
-/// Waits for a state of the machine, which moves in real time.
-bool reaches(int32_t state) {
-    const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(30);
-    while (system(G_NC_SYSTEM_STATE) != state) {
-        if (std::chrono::steady_clock::now() > end) {
-            return false;
-        }
-        std::this_thread::yield();
-    }
-    return true;
-}
+using namespace gpi::nc::test;
 
 void makeReady() {
     EXPECT_EQ(setSystem(G_NC_SYSTEM_POWER, 1), 1);
