@@ -1,8 +1,8 @@
+#include "geometry/geometry.h"
+#include "raster/arc_model.h"
 #include "raster/curve_test.h"
 
 #include <quarlo/draw.h>
-
-#include <cmath>
 
 using namespace quarlo;
 using namespace quarlo::test;
@@ -16,38 +16,6 @@ void drawArc(GDrawHandle* handle, const GRect& box, int32_t start, int32_t end) 
 }
 
 constexpr GRect kBox = {10, 5, 50, 35}; // centre (30, 20), semi-axes 20 and 15
-
-/// The pixel of an angle, step by step.
-GPoint endPoint(const CurveModel& oval, int32_t angle, int32_t& inverseSlope) {
-    const auto list = quarterColumns(oval.a, oval.b);
-    const int32_t quadrant = angle / 900;
-    int32_t x = 0;
-    int32_t y = oval.b;
-    inverseSlope = 0;
-    if (angle != 900 && angle != 2700) {
-        const auto t = angle % 1800 == 0
-                           ? 0.0F
-                           : static_cast<float>(std::fabs(std::tan(angle * 0.00174532925)));
-        const auto s = static_cast<int64_t>(t * 65536);
-        inverseSlope = t == 0 ? oval.a * 65536 : static_cast<int32_t>(65536 / t);
-        int64_t height = int64_t{oval.b} * 65536;
-        size_t i = 0;
-        while (height > 0 && !(list[i] != 0 && height / list[i] <= s)) {
-            height -= 65536;
-            ++i;
-        }
-        const int32_t previous = i == 0 ? 0 : list[i - 1];
-        x = list[i];
-        y = static_cast<int32_t>(height >> 16);
-        while (x >= 1 && !(x <= previous || height / x >= s)) {
-            --x;
-        }
-    }
-    const bool left = quadrant == 1 || quadrant == 2;
-    const bool upper = quadrant < 2;
-    return {static_cast<int16_t>(left ? oval.left - x : oval.right + x),
-            static_cast<int16_t>(upper ? oval.top - y : oval.bottom + y)};
-}
 
 TEST_F(Arc, LeavesItsEndsInTheHandle) {
     Drawing drawing(60, 40);
@@ -84,14 +52,14 @@ TEST_F(Arc, FindsItsEndsAsThePlainSteps) {
         const CurveModel oval = CurveModel::oval(box);
         for (int32_t angle = 0; angle < 3600; ++angle) {
             drawArc(drawing, box, angle, 3599 - angle);
-            int32_t slope = 0;
-            const GPoint start = endPoint(oval, angle, slope);
-            const GPoint end = endPoint(oval, 3599 - angle, slope);
+            const GPoint start = modelEnd(oval, angle).on(oval);
+            const ModelEnd last = modelEnd(oval, 3599 - angle);
+            const GPoint end = last.on(oval);
             ASSERT_EQ(drawing->arc.start.x, start.x) << angle;
             ASSERT_EQ(drawing->arc.start.y, start.y) << angle;
             ASSERT_EQ(drawing->arc.end.x, end.x) << angle;
             ASSERT_EQ(drawing->arc.end.y, end.y) << angle;
-            ASSERT_EQ(drawing->arc.inverseSlope, slope) << angle;
+            ASSERT_EQ(drawing->arc.inverseSlope, last.inverseSlope) << angle;
         }
     }
 }
@@ -123,13 +91,29 @@ TEST_F(Arc, OfNoLengthIsOnePixel) {
         const int32_t angle = std::max(curve.first, 0) % 3600;
         const Pixels pixels =
             painted([&](GDrawHandle* handle) { drawArc(handle, kBox, angle, angle); });
-        int32_t slope = 0;
-        const GPoint end = endPoint(CurveModel::oval(kBox), angle, slope);
+        const CurveModel oval = CurveModel::oval(kBox);
+        const GPoint end = modelEnd(oval, angle).on(oval);
         if (pixels.size() != 1) {
             return std::to_string(pixels.size()) + " pixels";
         }
         const auto [y, x] = *pixels.begin();
         return std::abs(y - end.y) <= 1 && std::abs(x - end.x) <= 1 ? "" : "away from the end";
+    });
+}
+
+TEST_F(Arc, IsThePartOfTheOutlineBetweenItsEnds) {
+    forRandomCurves(1500, [&](const CurveBox& curve) -> std::string {
+        const auto& [box, first, second, pen] = curve;
+        if (areDisjoint(box, kCurveArea)) {
+            return "";
+        }
+        const auto turned = [](int32_t angle) { return (angle + 3600) % 3600; };
+        const Pixels actual =
+            painted([&box = box, first = first, second = second](GDrawHandle* handle) {
+                drawArc(handle, box, first, second);
+            });
+        const Pixels expected = arcPixels(CurveModel::oval(box), turned(first), turned(second));
+        return difference(actual, within(expected, kCurveArea));
     });
 }
 

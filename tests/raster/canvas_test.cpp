@@ -111,9 +111,10 @@ TEST_F(CanvasArea, EveryCallIsLikeModel) {
 
 /// Calls that reach everywhere: wherever the record lies, memory is all that may be written.
 void expectSafe(const std::function<void(GVram&)>& distort) {
-    DrawMix mix = kEveryCall;
-    mix.wildModes = kForeignModes;
-    expectWithinMemory(mix, distort);
+    for (DrawMix mix : {kEveryCall, kCurvedShapes}) {
+        mix.wildModes = kForeignModes;
+        expectWithinMemory(mix, distort);
+    }
 }
 
 TEST_F(CanvasArea, ALargeClipRectangleDoesNoHarm) {

@@ -93,6 +93,29 @@ DrawResult resultOf(int64_t value, const GLine& line = {}) {
     return {value, line.x1, line.y1, line.x2, line.y2};
 }
 
+/// False for a call that draws no curved shape.
+bool drawCurve(GDrawHandle* handle, const DrawCall& call) {
+    const GRect box = rectOf(call);
+    const int16_t first = low(call.arguments[4]);
+    const int16_t second = low(call.arguments[4] >> 16);
+    switch (call.kind) {
+    case DrawCall::Oval:
+        GDDrawOval(handle, &box);
+        return true;
+    case DrawCall::RoundRect:
+        GDDrawRRect(handle, &box, first, second);
+        return true;
+    case DrawCall::Arc:
+        GDDrawArc(handle, &box, first, second);
+        return true;
+    case DrawCall::Pie:
+        GDDrawPie(handle, &box, first, second);
+        return true;
+    default:
+        return false;
+    }
+}
+
 DrawResult draw(GDrawHandle* handle, const DrawCall& call) {
     const int16_t x = low(call.arguments[0]);
     const int16_t y = low(call.arguments[1]);
@@ -147,7 +170,7 @@ DrawResult draw(Model& model, const DrawCall& call) {
 } // namespace
 
 DrawResult make(const DrawCall& call, GDrawHandle* handle) {
-    return set(handle, call) ? DrawResult{} : draw(handle, call);
+    return set(handle, call) || drawCurve(handle, call) ? DrawResult{} : draw(handle, call);
 }
 
 DrawResult make(const DrawCall& call, Model& model) {
@@ -159,7 +182,8 @@ std::ostream& operator<<(std::ostream& out, const DrawCall& call) {
         "pen colour",   "fill colours", "fill pattern",   "drawing mode", "dash and pen size",
         "dash phase",   "define dash",  "define pattern", "gradation",    "local mode",
         "virtual mode", "clip",         "move to",        "line to",      "line",
-        "rectangle",    "set pixel",    "get pixel"};
+        "rectangle",    "set pixel",    "get pixel",      "oval",         "round rectangle",
+        "arc",          "pie"};
     out << kNames[call.kind];
     for (const int32_t argument : call.arguments) {
         out << ' ' << argument;

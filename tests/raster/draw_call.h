@@ -32,6 +32,11 @@ struct DrawCall {
         DrawRect,
         SetPixel,
         GetPixel,
+        // Not for the model: box, and two 16-bit numbers in the last argument, low one first.
+        Oval,
+        RoundRect, ///< with radii
+        Arc,       ///< with angles
+        Pie,
     };
 
     Kind kind;

@@ -174,7 +174,10 @@ class CallMaker {
         for (size_t i = 0; i < 4; ++i) {
             call.arguments[i] = random.coordinate(-12, 80);
         }
-        if (call.kind == DrawCall::DrawRect && !random.oneIn(8)) {
+        if (call.kind >= DrawCall::Oval) {
+            call.arguments[4] = number(random);
+        }
+        if (hasBox(call) && !random.oneIn(8)) {
             sort(call.arguments[0], call.arguments[2]);
             sort(call.arguments[1], call.arguments[3]);
         }
@@ -182,6 +185,10 @@ class CallMaker {
             makeStraight(random, call);
         }
         return call;
+    }
+
+    static bool hasBox(const DrawCall& call) {
+        return call.kind == DrawCall::DrawRect || call.kind >= DrawCall::Oval;
     }
 
     static void sort(int32_t& a, int32_t& b) {

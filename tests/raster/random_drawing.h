@@ -32,12 +32,16 @@ struct DrawMix {
 inline const std::vector<DrawCall::Kind> kPlaceSetters = {
     DrawCall::LocalMode, DrawCall::VirtualMode, DrawCall::ClipRect, DrawCall::DrawingMode};
 
-/// Every setter and every drawing call there is.
+/// Every setter, and every drawing call that the model knows.
 inline const DrawMix kEveryCall = {{DrawCall::PenColor, DrawCall::FillColor, DrawCall::FillPattern,
                                     DrawCall::Dash, DrawCall::DashPhase, DrawCall::DefineDash,
                                     DrawCall::DefinePattern, DrawCall::Gradation},
                                    {DrawCall::MoveTo, DrawCall::LineTo, DrawCall::DrawLine,
                                     DrawCall::DrawRect, DrawCall::SetPixel, DrawCall::GetPixel}};
+
+/// What the model does not know.
+inline const DrawMix kCurvedShapes = {
+    kEveryCall.setters, {DrawCall::Oval, DrawCall::RoundRect, DrawCall::Arc, DrawCall::Pie}};
 
 /// Makes lists of random calls on surfaces of every format and of several sizes. Fails with the
 /// shortest list of calls after which the library and the model differ.
