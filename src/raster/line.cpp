@@ -26,19 +26,16 @@ const GLine* visiblePart(const Canvas& canvas, const GLine& line, GLine& clipped
 } // namespace
 
 int32_t GDRasterLine(const Canvas& canvas, const GLine& line) {
-    if (canvas.handle.penDash != 0) {
+    const GDrawHandle& handle = canvas.handle;
+    if (handle.penDash != 0) {
         return drawDashedLine(canvas, line) ? 1 : 0;
     }
-    return drawSolidLine(canvas, line);
-}
-
-int32_t drawSolidLine(const Canvas& canvas, const GLine& line) {
     GLine clipped;
     const GLine* const visible = visiblePart(canvas, line, clipped);
     if (visible == nullptr) {
         return 0;
     }
-    if (isWide(canvas.handle)) {
+    if (isWide(handle)) {
         drawWideLine(canvas, line);
     } else {
         drawThinLine(canvas, *visible);

@@ -15,9 +15,6 @@ namespace quarlo {
 /// @return 1 when something was drawn or walked, 0 when nothing of the line is visible
 int32_t GDRasterLine(const Canvas& canvas, const GLine& line);
 
-/// The same without the dash.
-int32_t drawSolidLine(const Canvas& canvas, const GLine& line);
-
 /// A line that lies in the canvas' area, both ends included. One without length draws nothing.
 void drawThinLine(const Canvas& canvas, const GLine& line);
 

@@ -1,5 +1,4 @@
 // Outlines of sectors: the arc and the radii to its ends.
-#include "raster/line.h"
 #include "raster/line_course.h"
 #include "raster/thin_arc.h"
 #include "raster/wide_line.h"
@@ -65,8 +64,8 @@ void drawWideRadii(const Canvas& canvas, const Ellipse& ellipse, const ArcSpan& 
     const GPoint start = arc.start.on(ellipse);
     const GPoint centre = centreOf(ellipse, arc.start);
     const GPoint end = arc.end.on(ellipse);
-    drawSolidLine(canvas, between(start, centre));
-    drawSolidLine(canvas, between(centre, end));
+    drawWideLine(canvas, between(start, centre));
+    drawWideLine(canvas, between(centre, end));
     drawPenDot(canvas, start);
     drawPenDot(canvas, end);
 }

@@ -173,6 +173,23 @@ TEST_F(Pie, OfAWidePenHasNoNotchWhereItsRadiiMeetTheArc) {
     }
 }
 
+TEST_F(Pie, OfAWidePenIsCutByTheClipAlone) {
+    // Also where a radius lies outside and only its thickness reaches in.
+    const GRect clip{20, 10, 45, 30};
+    forRandomCurves(500, [&](const CurveBox& curve) -> std::string {
+        const auto& [box, first, second, pen] = curve;
+        if (areDisjoint(box, clip)) {
+            return "";
+        }
+        Drawing drawing(kCurveWidth, kCurveHeight);
+        GDSetClipRect(drawing, &clip);
+        GDSetPenSize(drawing, pen, pen);
+        drawPie(drawing, box, first, second);
+        return difference(pixelsOf(*drawing.surface()),
+                          within(outlineOf(box, first, second, pen), clip));
+    });
+}
+
 TEST_F(Pie, WithoutFillStillHasArcAndRadii) {
     Drawing drawing(41, 41);
     drawPie(drawing, {0, 0, 40, 40}, 0, 900);
