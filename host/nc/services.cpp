@@ -2,8 +2,8 @@
 
 #include "guard.h"
 #include "nc/address.h"
-#include "nc/text.h"
 #include "platform.h"
+#include "text/transcode.h"
 
 #include <gpi/nc.h>
 
@@ -40,11 +40,12 @@ int32_t chooseProgram(Controller& controller, const char16_t* name) {
     try {
         const Root& root = platform().files->root;
         auto text = nc::readProgramText(openFile(root.locate(name), G_OPEN_READ));
-        if (!text) {
+        auto shownName = utf8Of(textOf(name, G_PATH_SIZE));
+        if (!text || !shownName) {
             return G_NC_RANGE;
         }
         return controller.choose(std::make_shared<nc::Program>(
-            nc::toUtf8(textOf(name, G_PATH_SIZE)), root.resolve(name), std::move(*text)));
+            std::move(*shownName), root.resolve(name), std::move(*text)));
     } catch (const IoError&) {
         return G_NC_RANGE;
     } catch (const std::filesystem::filesystem_error&) {
@@ -59,7 +60,18 @@ int32_t runBlock(Controller& controller, const char16_t* block) {
     if (text.empty() || text.size() > GPI_NC_LONGEST_BLOCK || !oneLine) {
         return G_NC_RANGE;
     }
-    return controller.runBlock(nc::toUtf8(text));
+    const auto line = utf8Of(text);
+    return line ? controller.runBlock(*line) : static_cast<int32_t>(G_NC_RANGE);
+}
+
+/// Copies what fits, never half a character, and a NUL.
+/// @param size room in `out`, units; at least 1
+void copyText(std::u16string_view text, char16_t* out, size_t size) {
+    size_t length = std::min(text.size(), size - 1);
+    const bool splitsPair = length < text.size() && (text[length] & 0xFC00) == 0xDC00;
+    length -= splitsPair && length > 0 ? 1 : 0;
+    std::copy_n(text.begin(), length, out);
+    out[length] = u'\0';
 }
 
 } // namespace
@@ -113,7 +125,7 @@ int32_t getNcString(int32_t channel, int32_t string, int32_t number, char16_t* t
         std::string found;
         const int32_t result = controller.getText(string, number, found);
         if (result == kDone) {
-            nc::copyText(nc::toUtf16(found), text, static_cast<size_t>(size));
+            copyText(utf16Of(found), text, static_cast<size_t>(size));
         }
         return result;
     });

@@ -22,10 +22,12 @@ bool stopsAfter(const Segment& segment, const Pace& pace) {
 void Path::add(const Segment& segment) {
     const double corner = segments_.empty() ? 0.0 : cornerSpeed(segments_.back().segment, segment);
     segments_.push_back({segment, corner});
+    look_.reset();
 }
 
 void Path::clear() {
     segments_.clear();
+    look_.reset();
     way_ = 0.0;
     speed_ = 0.0;
 }
@@ -41,8 +43,16 @@ Point3 Path::velocity() const {
     return velocity;
 }
 
+/// How fast the first segment may be left.
+double Path::leavingSpeed(const Pace& pace) {
+    if (!look_ || look_->pace != pace) {
+        look_ = {pace, lookAhead(pace)};
+    }
+    return look_->leaving;
+}
+
 /// Walks back from the end of what is looked at: how fast may each segment be entered?
-double Path::leavingSpeed(const Pace& pace) const {
+double Path::lookAhead(const Pace& pace) const {
     double leaving = 0.0;
     for (size_t i = std::min(segments_.size(), kLookAhead); i-- > 1;) {
         const Segment& before = segments_[i - 1].segment;
@@ -81,6 +91,7 @@ bool Path::advance(const Pace& pace) {
         position_ = current().end();
         blockEnded = current().endsBlock && speed_ == 0.0;
         segments_.pop_front();
+        look_.reset();
     }
     if (segments_.empty()) {
         way_ = 0.0;

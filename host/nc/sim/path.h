@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <deque>
+#include <optional>
 
 namespace gpi::nc {
 
@@ -14,6 +15,8 @@ struct Pace {
     double rapid = 1.0;          ///< override of rapids
     bool hold = false;           ///< comes to a stand on the path
     bool stopAtBlockEnd = false; ///< stands still after the block, or after the next one it can
+
+    bool operator==(const Pace&) const = default;
 };
 
 /// A run of segments that is travelled without leaving it: the tool brakes for bends, corners and
@@ -49,12 +52,20 @@ class Path {
         double corner; ///< speed allowed at its begin
     };
 
-    double leavingSpeed(const Pace& pace) const;
+    double leavingSpeed(const Pace& pace);
+    double lookAhead(const Pace& pace) const;
 
     std::deque<Ahead> segments_;
     Point3 position_{};
     double way_ = 0.0; ///< done of the first segment
     double speed_ = 0.0;
+
+    /// The last look ahead, which is good until segments come or go.
+    struct Look {
+        Pace pace;
+        double leaving;
+    };
+    std::optional<Look> look_;
 };
 
 } // namespace gpi::nc

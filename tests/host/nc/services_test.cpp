@@ -24,7 +24,7 @@ void makeReady() {
 /// A folder of programs and a platform that finds them.
 struct Shop {
     Shop() {
-        folder.write("part.nc", "G0 X1\nG1 X5 F6000 (\xC3\xA4)\nM30\n");
+        folder.write("part.nc", "G0 X1\nG1 X5 F6000 (\xC3\xA4)\nM30\n;\xF0\x9F\x94\xA9\n;\xFF\n");
         std::filesystem::create_directory(folder.path("jobs"));
         folder.write("jobs/second.nc", "M30\n");
     }
@@ -97,7 +97,7 @@ TEST(NcServices, RunAProgramInRealTime) {
     makeReady();
     EXPECT_EQ(setString(1, G_NC_PROGRAM_NAME, 0, u"C:\\part.nc"), 1);
     EXPECT_EQ(text(G_NC_PROGRAM_NAME), u"C:\\part.nc");
-    EXPECT_EQ(system(G_NC_SYSTEM_LINES), 3);
+    EXPECT_EQ(system(G_NC_SYSTEM_LINES), 5);
     EXPECT_EQ(text(G_NC_PROGRAM_LINE, 2), u"G1 X5 F6000 (\u00E4)");
     EXPECT_EQ(setSystem(G_NC_SYSTEM_COMMAND, G_NC_COMMAND_START), 1);
     EXPECT_TRUE(reaches(G_NC_STATE_IDLE));
@@ -129,7 +129,7 @@ TEST(NcServices, TakeOneBlockByHand) {
     setSystem(G_NC_SYSTEM_MODE, G_NC_MODE_MDI);
     for (const std::u16string& block :
          {std::u16string(), std::u16string(u"G0 X1\nG0 X2"), std::u16string(u"G0\x01X1"),
-          std::u16string(GPI_NC_LONGEST_BLOCK + 1, u' ')}) {
+          std::u16string(1, char16_t{0xD800}), std::u16string(GPI_NC_LONGEST_BLOCK + 1, u' ')}) {
         EXPECT_EQ(setString(1, G_NC_MANUAL_BLOCK, 0, block.c_str()), G_NC_RANGE);
     }
     std::u16string longest = u"G0 X1\t";
@@ -142,13 +142,19 @@ TEST(NcServices, TakeOneBlockByHand) {
 }
 
 TEST(NcServices, CutTextsToTheBuffer) {
-    const StartedPlatform platform;
+    const Shop shop;
+    setString(1, G_NC_PROGRAM_NAME, 0, u"part.nc");
+    EXPECT_EQ(text(G_NC_PROGRAM_LINE, 5), u";\uFFFD") << "what is no character";
     char16_t buffer[8] = u"#######";
     EXPECT_EQ(getString(1, G_NC_CONTROL_NAME, 0, buffer, 5), 1);
     EXPECT_EQ(std::u16string(buffer), u"quar");
     EXPECT_EQ(buffer[5], u'#');
     EXPECT_EQ(getString(1, G_NC_CONTROL_NAME, 0, buffer, 1), 1);
     EXPECT_EQ(buffer[0], u'\0');
+    EXPECT_EQ(getString(1, G_NC_PROGRAM_LINE, 4, buffer, 4), 1);
+    EXPECT_EQ(std::u16string(buffer), u";\U0001F529");
+    EXPECT_EQ(getString(1, G_NC_PROGRAM_LINE, 4, buffer, 3), 1);
+    EXPECT_EQ(std::u16string(buffer), u";") << "no half of a pair";
 }
 
 TEST(NcServices, AnswerSeveralThreadsAtOnce) {

@@ -237,7 +237,7 @@ TEST(SimMotion, DependsOnTimeAndNotOnWhoLooks) {
     EXPECT_EQ(seen, trace(program, 20));
 }
 
-TEST(SimMotion, CatchesUpWithAnHourInASecond) {
+TEST(SimMotion, CatchesUpWithAnHourInSeconds) {
     Bench bench(Bench::kReady);
     std::string program = "G1 F3000\n";
     for (int i = 0; i < 1000; ++i) {
@@ -247,7 +247,7 @@ TEST(SimMotion, CatchesUpWithAnHourInASecond) {
     const int64_t start = steadyMilliseconds();
     bench.wait(3'600'000);
     bench.state();
-    RecordProperty("milliseconds", static_cast<int>(steadyMilliseconds() - start));
+    EXPECT_LT(steadyMilliseconds() - start, 20'000) << "an eighth of a second, usually";
     EXPECT_GT(bench.value(G_NC_LINE), 1500.0);
 }
 
