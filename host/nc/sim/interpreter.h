@@ -9,7 +9,9 @@
 #include "nc/sim/order.h"
 
 #include <array>
+#include <string>
 #include <string_view>
+#include <utility>
 
 namespace gpi::nc {
 
@@ -39,7 +41,11 @@ class Interpreter {
     double modal(int32_t group) const;
 
   private:
-    struct Refusal;
+    /// Thrown where a block cannot be run; its words become the alarm.
+    struct Refusal {
+        std::string text;
+        int32_t alarm = GPI_NC_ALARM_PROGRAM;
+    };
 
     void run(const gcode::Block& block);
     void applyCodes(const gcode::Block& block);
@@ -57,7 +63,9 @@ class Interpreter {
     void addSegment(Segment segment, bool rapid);
     void stopAfter(const gcode::Block& block);
     template <typename What>
-    void add(What what);
+    void add(What what) {
+        orders_->push_back({std::move(what), line_});
+    }
     Point3 programPosition() const;
     Point3 toMachine(const Point3& program) const;
 

@@ -11,6 +11,7 @@ using gcode::Axis;
 using gcode::Point3;
 
 inline constexpr int32_t kAxes = 3;
+inline constexpr Axis kEveryAxis[kAxes] = {gcode::kX, gcode::kY, gcode::kZ};
 inline constexpr int32_t kTools = 24;
 
 /// Seconds of a step of the simulation.

@@ -7,8 +7,6 @@
 namespace gpi::nc {
 namespace {
 
-constexpr gcode::Axis kEveryAxis[] = {gcode::kX, gcode::kY, gcode::kZ};
-
 // Points that a program's arithmetic puts on a limit.
 constexpr double kRounding = 1e-6;
 
