@@ -82,6 +82,19 @@ TEST(Settings, KnowEveryDisplayAndFormat) {
     }
 }
 
+TEST(Settings, ChooseTheControl) {
+    const Environment environment(nothing());
+    EXPECT_EQ(Read().settings.control, ControlKind::Sim);
+    EXPECT_EQ(Read().settings.controlHelper, "");
+    const Environment sim{{"QUARLO_NC", "sim"}};
+    EXPECT_EQ(Read().settings.control, ControlKind::Sim);
+    const Environment linuxCnc{{"QUARLO_NC", "linuxcnc"}, {"QUARLO_NC_HELPER", "/opt/helper"}};
+    const Read read;
+    EXPECT_EQ(read.settings.control, ControlKind::LinuxCnc);
+    EXPECT_EQ(read.settings.controlHelper, "/opt/helper");
+    EXPECT_EQ(read.said, "");
+}
+
 TEST(Settings, NameAWrongValueInOneLineAndTakeTheDefault) {
     const Environment environment(nothing());
     const std::pair<const char*, const char*> wrong[] = {
@@ -93,6 +106,7 @@ TEST(Settings, NameAWrongValueInOneLineAndTakeTheDefault) {
         {"QUARLO_HEIGHT", " 5"},
         {"QUARLO_FORMAT", "32"},
         {"QUARLO_FORMAT", "16"},
+        {"QUARLO_NC", "lathe"},
         {"QUARLO_SCALE", "9"},
         {"QUARLO_SCALE", "1.5"},
         {"QUARLO_MEMORY_LIMIT", "-1"},
