@@ -10,8 +10,6 @@
 #include <array>
 #include <cerrno>
 
-extern char** environ;
-
 namespace gpi::nc {
 namespace {
 

@@ -98,20 +98,13 @@ TEST(Settings, ChooseTheControl) {
 TEST(Settings, NameAWrongValueInOneLineAndTakeTheDefault) {
     const Environment environment(nothing());
     const std::pair<const char*, const char*> wrong[] = {
-        {"QUARLO_DISPLAY", "vga"},
-        {"QUARLO_WIDTH", "0"},
-        {"QUARLO_WIDTH", "2561"},
-        {"QUARLO_WIDTH", "640x480"},
-        {"QUARLO_HEIGHT", "-5"},
-        {"QUARLO_HEIGHT", " 5"},
-        {"QUARLO_FORMAT", "32"},
-        {"QUARLO_FORMAT", "16"},
-        {"QUARLO_NC", "lathe"},
-        {"QUARLO_SCALE", "9"},
-        {"QUARLO_SCALE", "1.5"},
-        {"QUARLO_MEMORY_LIMIT", "-1"},
-        {"QUARLO_MEMORY_LIMIT", "1e9"},
-        {"QUARLO_MEMORY_LIMIT", "99999999999999999999"},
+        {"QUARLO_DISPLAY", "vga"},      {"QUARLO_WIDTH", "0"},
+        {"QUARLO_WIDTH", "2561"},       {"QUARLO_WIDTH", "640x480"},
+        {"QUARLO_HEIGHT", "-5"},        {"QUARLO_HEIGHT", " 5"},
+        {"QUARLO_FORMAT", "32"},        {"QUARLO_FORMAT", "16"},
+        {"QUARLO_NC", "lathe"},         {"QUARLO_SCALE", "9"},
+        {"QUARLO_SCALE", "1.5"},        {"QUARLO_MEMORY_LIMIT", "-1"},
+        {"QUARLO_MEMORY_LIMIT", "1e9"}, {"QUARLO_MEMORY_LIMIT", "99999999999999999999"},
     };
     for (const auto& [name, value] : wrong) {
         const Environment one{{name, value}};

@@ -204,7 +204,8 @@ TEST_F(LinuxCncServices, TellTheControlsErrors) {
     ASSERT_TRUE(eventually([] { return system(G_NC_SYSTEM_ALARMS) > 0; }));
     EXPECT_EQ(value(G_NC_ALARM), GPI_NC_ALARM_CONTROL);
     EXPECT_FALSE(text(G_NC_ALARM_TEXT).empty());
-    ASSERT_TRUE(eventually([] { return command(G_NC_COMMAND_RESET) == 1; }));
+    ASSERT_EQ(command(G_NC_COMMAND_RESET), 1);
+    ASSERT_TRUE(reaches(G_NC_STATE_IDLE));
     EXPECT_EQ(setString(1, G_NC_MANUAL_BLOCK, 0, u"G0 X999"), G_NC_REFUSED);
     ASSERT_TRUE(eventually([] { return system(G_NC_SYSTEM_ALARMS) > 0; }));
     std::u16string said;
