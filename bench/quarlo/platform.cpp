@@ -32,8 +32,8 @@ GVram* displaySurface(GDrawHandle*, int32_t) {
     return &display;
 }
 
-GWord transferBlock(GDrawHandle*, const GVram*, int16_t, int16_t, int16_t, int16_t, GVram*, int16_t,
-                    int16_t, int32_t) {
+int32_t transferBlock(GDrawHandle*, const GVram*, int16_t, int16_t, int16_t, int16_t, GVram*,
+                      int16_t, int16_t, int32_t) {
     return 0;
 }
 

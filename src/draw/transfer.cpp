@@ -7,11 +7,12 @@
 #include <quarlo/transfer.h>
 
 #include <algorithm>
+#include <type_traits>
 
 namespace quarlo {
 namespace {
 
-using DeviceTransfer = ForwardTo<GDBitBlt, 8>;
+using DeviceTransfer = Service<std::remove_pointer_t<GPIBlockTransfer>, 8>;
 
 /// Two corresponding rectangles of the same size. What is cut from one is cut from the other.
 struct Pair {
