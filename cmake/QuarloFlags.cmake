@@ -28,3 +28,7 @@ if(QUARLO_SANITIZE)
                         -fno-omit-frame-pointer)
     add_link_options(-fsanitize=${QUARLO_SANITIZE})
 endif()
+
+if(QUARLO_FUZZ)
+    add_compile_options(-fsanitize=fuzzer-no-link)
+endif()
