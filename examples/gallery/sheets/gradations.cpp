@@ -75,6 +75,38 @@ void bar(GDrawHandle* handle, const GRect& whole) {
                   {G_GRADATION_DOWN, kWhite, kInk, 0, 256});
 }
 
+/// A ball lit from above, and its shadow. An oval is filled as its box would be.
+void ball(GDrawHandle* handle, const GRect& whole) {
+    const GRect area = squareIn(inset(whole, 8));
+    const GRect round =
+        box(widthOf(whole) / 2 - widthOf(area) / 2, 4, widthOf(area), heightOf(area));
+    const GRect shadow = edges(round.left + 8, round.bottom - 4, round.right - 8, round.bottom + 8);
+    const GGradationInfo light = {G_GRADATION_DOWN, kWhite, kRed, 20, 256};
+    fillBox(handle, whole, kSand);
+    noPen(handle);
+    GDSetFillAttribute(handle, G_FILL_FORE, kGrey, kGrey);
+    GDDrawOval(handle, &shadow);
+    GDSetGradationInfo(handle, &light);
+    GDSetFillPattern(handle, G_FILL_GRADATION);
+    GDDrawOval(handle, &round);
+}
+
+/// Every oval has the ramp of its own box.
+void beads(GDrawHandle* handle, const GRect& whole) {
+    constexpr int kBeads = 5;
+    constexpr uint32_t kColors[] = {kBlue, kRed, kGold, kGreen, kSand};
+    noPen(handle);
+    fillBox(handle, whole, kInk);
+    for (int i = 0; i < kBeads; ++i) {
+        const int width = widthOf(whole) / kBeads;
+        const GRect bead = box(i * width + 2, 4 + i * 8, width - 4, heightOf(whole) - 8 - i * 16);
+        const GGradationInfo info = {G_GRADATION_ACROSS, kWhite, kColors[i], 0, 256};
+        GDSetGradationInfo(handle, &info);
+        GDSetFillPattern(handle, G_FILL_GRADATION);
+        GDDrawOval(handle, &bead);
+    }
+}
+
 } // namespace
 
 void drawGradationFigures(GDrawHandle* handle) {
@@ -88,6 +120,8 @@ void drawGradationFigures(GDrawHandle* handle) {
     }
     drawFigure(handle, grid.figure(place++), "CLIPPED", on555(clipped));
     drawFigure(handle, grid.figure(place++), "A BAR", on555(bar));
+    drawFigure(handle, grid.figure(place++), "A BALL", on555(ball));
+    drawFigure(handle, grid.figure(place++), "BEADS", on555(beads));
 }
 
 } // namespace gallery
