@@ -13,6 +13,9 @@ constexpr size_t kCountedLines = 64;
 /// Peers differ at the ends of lines and of dashes; Cairo strokes are one pixel wide across the
 /// line's direction, which takes more pixels than one a step.
 constexpr double kMostExtraPixels = 0.15;
+/// Where hundreds of edges cross each row, it matters most whether the pixels at both ends of a run
+/// belong to it.
+constexpr double kMostExtraInScribbles = 0.4;
 
 using Picture = std::vector<uint8_t>;
 
@@ -22,15 +25,15 @@ uint8_t backgroundOf(const Workload& workload) {
 }
 
 std::optional<Picture> draw(Contender& contender, const Workload& workload, Canvas& canvas) {
-    const bool line = isLine(workload.operation);
+    const bool counted = isLine(workload.operation) || isShape(workload.operation);
+    const size_t count = isShape(workload.operation) ? 1 : kCountedLines;
     const Shapes shapes = shapesOf(workload);
-    const Pass pass =
-        contender.prepare(workload, line ? shapes.first(kCountedLines) : shapes, canvas);
+    const Pass pass = contender.prepare(workload, counted ? shapes.first(count) : shapes, canvas);
     if (!pass) {
         return std::nullopt;
     }
     canvas.reset();
-    if (line) {
+    if (counted) {
         canvas.clear(backgroundOf(workload));
     }
     pass();
@@ -74,7 +77,7 @@ Verdict compareChannels(const Picture& ours, const Picture& theirs, const Worklo
     return {true, ours == theirs ? "same bytes" : "same channels, own widening"};
 }
 
-Verdict compareLines(const Picture& ours, const Picture& theirs, const Workload& workload) {
+Verdict comparePixels(const Picture& ours, const Picture& theirs, const Workload& workload) {
     const int size = bytesPerPixel(workload.format);
     const uint32_t background = backgroundOf(workload) * (0xFFFFFFu >> (24 - 8 * size) & 0x010101u);
     size_t both = 0;
@@ -92,7 +95,9 @@ Verdict compareLines(const Picture& ours, const Picture& theirs, const Workload&
     char note[64];
     std::snprintf(note, sizeof note, "own steps: %+.1f %% pixels, %.0f %% shared", 100 * more,
                   100 * shared);
-    return {std::abs(more) <= kMostExtraPixels, note};
+    const double most =
+        workload.operation == Operation::Scribble ? kMostExtraInScribbles : kMostExtraPixels;
+    return {std::abs(more) <= most, note};
 }
 
 } // namespace
@@ -112,7 +117,8 @@ Verdict compare(Contender& library, Contender& contender, const Workload& worklo
     case Rule::Channels:
         return compareChannels(*ours, *theirs, workload);
     case Rule::Line:
-        return compareLines(*ours, *theirs, workload);
+    case Rule::Shape:
+        return comparePixels(*ours, *theirs, workload);
     default:
         break;
     }

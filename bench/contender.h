@@ -21,6 +21,7 @@ enum class Rule {
     Same,     ///< those of the library, to the bit
     Channels, ///< those of the library in the bits that the source has; it widens in its own way
     Line,     ///< about as many pixels; it steps or dashes lines in its own way
+    Shape,    ///< likewise; it rounds outlines in its own way
     Amount,   ///< as many bytes of any value: it only moves memory
 };
 
@@ -41,6 +42,9 @@ class Contender {
 inline Rule peerRule(const Workload& workload) {
     if (isLine(workload.operation)) {
         return Rule::Line;
+    }
+    if (isShape(workload.operation)) {
+        return Rule::Shape;
     }
     return workload.operation == Operation::Convert ? Rule::Channels : Rule::Same;
 }

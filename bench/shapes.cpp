@@ -11,6 +11,7 @@ namespace bench {
 namespace {
 
 constexpr size_t kPlaces = 256;
+constexpr size_t kPlacesOfLargeShapes = 16;
 constexpr size_t kSegments = 10'000;
 
 std::vector<Place> makePlaces(int width, int height) {
@@ -20,7 +21,7 @@ std::vector<Place> makePlaces(int width, int height) {
         return {Place{0, 0, 0, 0}};
     }
     Random random(0x51A7E5u + static_cast<uint32_t>(width * 1000 + height));
-    std::vector<Place> places(kPlaces);
+    std::vector<Place> places(width * height >= 400 * 400 ? kPlacesOfLargeShapes : kPlaces);
     for (Place& place : places) {
         place.x = static_cast<int16_t>(random.below(right + 1));
         place.y = static_cast<int16_t>(random.below(bottom + 1));

@@ -1,6 +1,7 @@
 #include "workload.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace bench {
 namespace {
@@ -66,6 +67,30 @@ const char* nameOf(Operation operation) {
         return "scroll";
     case Operation::Convert:
         return "convert";
+    case Operation::WideLine:
+        return "wideline";
+    case Operation::Triangle:
+        return "triangle";
+    case Operation::Star:
+        return "star";
+    case Operation::Ragged:
+        return "ragged";
+    case Operation::Scribble:
+        return "scribble";
+    case Operation::Oval:
+        return "oval";
+    case Operation::OvalLine:
+        return "ovalline";
+    case Operation::RoundRect:
+        return "roundrect";
+    case Operation::RoundRectLine:
+        return "roundrectline";
+    case Operation::Arc:
+        return "arc";
+    case Operation::Pie:
+        return "pie";
+    case Operation::Bezier:
+        return "bezier";
     }
     return "";
 }
@@ -130,6 +155,25 @@ void addConversions(std::vector<Workload>& list) {
     }
 }
 
+struct Shape {
+    Operation operation;
+    Extent extent;
+};
+constexpr Shape kShapes[] = {
+    {Operation::Triangle, {100, 100}}, {Operation::Star, {201, 201}},
+    {Operation::Ragged, {400, 400}},   {Operation::Scribble, {400, 400}},
+    {Operation::Oval, {101, 61}},      {Operation::OvalLine, {101, 61}},
+    {Operation::RoundRect, {100, 60}}, {Operation::RoundRectLine, {100, 60}},
+    {Operation::Arc, {98, 98}},        {Operation::Pie, {98, 98}},
+    {Operation::Bezier, {100, 100}},
+};
+
+void addCopied(std::vector<Workload>& list, Operation operation, Extent extent) {
+    for (const Format format : kFormats) {
+        list.push_back({operation, extent.width, extent.height, format, format, Mode::Copy, {}});
+    }
+}
+
 } // namespace
 
 std::vector<Workload> allWorkloads() {
@@ -139,11 +183,13 @@ std::vector<Workload> allWorkloads() {
           Operation::Dash, Operation::Transfer}) {
         addRectangular(list, operation);
     }
-    for (const Format format : kFormats) {
-        list.push_back({Operation::LineTo, 100, 100, format, format, Mode::Copy, {}});
-    }
+    addCopied(list, Operation::LineTo, {100, 100});
+    addCopied(list, Operation::WideLine, {100, 100});
     addScrolls(list);
     addConversions(list);
+    for (const auto& [operation, extent] : kShapes) {
+        addCopied(list, operation, extent);
+    }
     return list;
 }
 
@@ -159,7 +205,12 @@ std::string nameOf(const Workload& workload) {
 
 bool isLine(Operation operation) {
     return operation == Operation::Line || operation == Operation::LineTo ||
-           operation == Operation::Dash;
+           operation == Operation::Dash || operation == Operation::WideLine;
+}
+
+bool isShape(Operation operation) {
+    return std::any_of(std::begin(kShapes), std::end(kShapes),
+                       [=](const Shape& shape) { return shape.operation == operation; });
 }
 
 } // namespace bench

@@ -17,9 +17,21 @@ enum class Operation {
     Line,     ///< thin line of any direction
     LineTo,   ///< the same, by moving the pen and drawing from there
     Dash,     ///< thin line of any direction, eight pixels on and eight off
+    WideLine, ///< line of any direction, five pixels wide, butt ends
     Transfer, ///< copy between surfaces of one format
     Scroll,   ///< the whole surface onto itself by one pixel
     Convert,  ///< copy between surfaces of different formats
+    Triangle, ///< filled
+    Star,     ///< filled by the even-odd rule, crossing itself
+    Ragged,   ///< filled outline of a thousand vertices
+    Scribble, ///< filled polygon of a thousand random points
+    Oval,     ///< filled
+    OvalLine, ///< thin outline
+    RoundRect,
+    RoundRectLine,
+    Arc, ///< thin
+    Pie, ///< filled
+    Bezier,
 };
 
 /// How a source combines with what is there, byte by byte.
@@ -49,7 +61,12 @@ std::string nameOf(const Workload& workload);
 
 bool isLine(Operation operation);
 
+/// Everything that is neither a rectangle nor a line.
+bool isShape(Operation operation);
+
 /// Pixels on and off of a dashed line.
 inline constexpr int kDash = 8;
+
+inline constexpr int kWidePen = 5;
 
 } // namespace bench

@@ -13,7 +13,7 @@ BEGIN = "<!-- tables: scripts/bench --write-docs -->"
 END = "<!-- end of tables -->"
 
 # Orders of the columns that name a workload.
-SIZES = ["8", "16", "32", "100", "full", "up", "down", "left", "right"]
+SIZES = ["8", "16", "32", "98", "100", "101", "201", "400", "full", "up", "down", "left", "right"]
 MODES = ["copy", "and", "or", "xor"]
 
 TITLES = {
@@ -24,6 +24,18 @@ TITLES = {
     "line": "Thin lines of any direction",
     "lineto": "The same, with GDMoveTo and GDLineTo",
     "dash": "Dashed lines of any direction",
+    "wideline": "Lines five pixels wide",
+    "bezier": "Bezier curves",
+    "triangle": "Filled triangles",
+    "star": "Filled stars",
+    "ragged": "Filled outlines of 1,000 vertices",
+    "scribble": "Filled polygons of 1,000 random points",
+    "oval": "Filled ovals",
+    "ovalline": "Outlines of ovals",
+    "roundrect": "Filled rounded rectangles",
+    "roundrectline": "Outlines of rounded rectangles",
+    "arc": "Arcs",
+    "pie": "Filled pies",
     "transfer": "Block transfers",
     "scroll": "Scrolls by one pixel",
     "convert": "Conversions between formats",
@@ -142,6 +154,18 @@ class Report:
                 collect(lambda row: row.operation == "line",
                         lambda row: ratio(row.ours, min(
                             (row.times[name] for name in ("sdl2", "agg") if name in row.times),
+                            default=None)))),
+            Aim("filled triangle / bare spans", 3.0,
+                collect(lambda row: row.operation == "triangle", lambda row: row.to_limit)),
+            Aim("1,000 vertices, ragged or random / Cairo", 1.0,
+                collect(lambda row: row.operation in ("ragged", "scribble"),
+                        lambda row: ratio(row.ours, row.times.get("cairo")))),
+            Aim("filled oval / bare spans", 1.4,
+                collect(lambda row: row.operation == "oval", lambda row: row.to_limit)),
+            Aim("filled rounded rectangles and pies / Qt", 0.5,
+                collect(lambda row: row.operation in ("roundrect", "pie"),
+                        lambda row: ratio(row.ours, min(
+                            (row.times[name] for name in ("qt5", "qt5-avx2") if name in row.times),
                             default=None)))),
         ]
 

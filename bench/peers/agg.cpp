@@ -1,17 +1,27 @@
-// AGG: its pixel formats and renderers without its antialiasing rasterizer. The templates are
-// compiled here, with the flags of everything else.
+// AGG: its pixel formats and renderers, and its rasterizer with coverage cut at one half where
+// nothing simpler fills a shape. The templates are compiled here, with the flags of everything
+// else.
 #include "contender.h"
+#include "outlines.h"
 
+#include <agg_arc.h>
 #include <agg_conv_dash.h>
+#include <agg_conv_stroke.h>
+#include <agg_curves.h>
+#include <agg_gamma_functions.h>
 #include <agg_image_accessors.h>
 #include <agg_path_storage.h>
 #include <agg_pixfmt_gray.h>
 #include <agg_pixfmt_rgb.h>
 #include <agg_pixfmt_rgb_packed.h>
 #include <agg_rasterizer_outline.h>
+#include <agg_rasterizer_scanline_aa.h>
 #include <agg_renderer_base.h>
 #include <agg_renderer_primitives.h>
+#include <agg_renderer_scanline.h>
 #include <agg_rendering_buffer.h>
+#include <agg_rounded_rect.h>
+#include <agg_scanline_bin.h>
 #include <agg_span_pattern_gray.h>
 #include <agg_span_pattern_rgb.h>
 
@@ -106,10 +116,25 @@ class Operations {
             return lines();
         case Operation::Dash:
             return dashes();
+        case Operation::WideLine:
+            return wideLines();
         case Operation::Transfer:
             return transfer();
         case Operation::Scroll:
             return scroll();
+        case Operation::Oval:
+        case Operation::OvalLine:
+            return ellipses();
+        case Operation::RoundRect:
+            return roundRects();
+        case Operation::Arc:
+        case Operation::Bezier:
+            return curves();
+        case Operation::Triangle:
+        case Operation::Star:
+        case Operation::Ragged:
+        case Operation::Scribble:
+            return polygons();
         default:
             return {};
         }
@@ -200,6 +225,99 @@ class Operations {
             dashes->path.move_to(line.x1, line.y1);
             dashes->path.line_to(line.x2, line.y2);
             dashes->outline.add_path(dashes->dashed);
+        });
+    }
+
+    /// Fills paths without antialiasing.
+    struct Filler {
+        Filler() {
+            rasterizer.gamma(agg::gamma_threshold(0.5));
+            rasterizer.filling_rule(agg::fill_even_odd);
+        }
+        template <typename Path, typename Color>
+        void fill(Surface<F>& target, Path& path, const Color& color) {
+            rasterizer.add_path(path);
+            agg::render_scanlines_bin_solid(rasterizer, scanline, target.base(), color);
+        }
+        agg::rasterizer_scanline_aa<> rasterizer;
+        agg::scanline_bin scanline;
+        agg::path_storage path;
+    };
+
+    Pass polygons() const {
+        return atPlaces(shapes_,
+                        [target = target_, color = color(), filler = std::make_shared<Filler>(),
+                         &polygon = polygonOf(workload_.operation)](const Place& place) {
+                            filler->path.remove_all();
+                            for (const auto& [x, y] : polygon) {
+                                filler->path.line_to(place.x + x, place.y + y);
+                            }
+                            filler->path.modify_command(0, agg::path_cmd_move_to);
+                            filler->fill(*target, filler->path, color);
+                        });
+    }
+
+    Pass wideLines() const {
+        return alongSegments(shapes_, [target = target_, color = color(),
+                                       filler = std::make_shared<Filler>()](const Segment& line) {
+            filler->path.remove_all();
+            filler->path.move_to(line.x1 + 0.5, line.y1 + 0.5);
+            filler->path.line_to(line.x2 + 0.5, line.y2 + 0.5);
+            agg::conv_stroke<agg::path_storage> stroke(filler->path);
+            stroke.width(kWidePen);
+            filler->fill(*target, stroke, color);
+        });
+    }
+
+    Pass roundRects() const {
+        return atPlaces(shapes_, [target = target_, color = color(),
+                                  filler = std::make_shared<Filler>(), w = workload_.width,
+                                  h = workload_.height](const Place& place) {
+            agg::rounded_rect rect(place.x, place.y, place.x + w, place.y + h, kCornerRadius);
+            filler->fill(*target, rect, color);
+        });
+    }
+
+    Pass ellipses() const {
+        auto primitives = std::make_shared<Primitives>(target_->base());
+        primitives->line_color(color());
+        primitives->fill_color(color());
+        return atPlaces(shapes_,
+                        [target = target_, primitives, rx = workload_.width / 2,
+                         ry = workload_.height / 2,
+                         fills = workload_.operation == Operation::Oval](const Place& place) {
+                            if (fills) {
+                                primitives->solid_ellipse(place.x + rx, place.y + ry, rx, ry);
+                            } else {
+                                primitives->ellipse(place.x + rx, place.y + ry, rx, ry);
+                            }
+                        });
+    }
+
+    /// Thin arcs and Bezier curves, as chains of lines.
+    Pass curves() const {
+        struct Outline {
+            explicit Outline(agg::renderer_base<typename T::Pixels>& base)
+                : primitives(base), lines(primitives) {}
+            Primitives primitives;
+            agg::rasterizer_outline<Primitives> lines;
+        };
+        auto outline = std::make_shared<Outline>(target_->base());
+        outline->primitives.line_color(color());
+        if (workload_.operation == Operation::Bezier) {
+            return atPlaces(shapes_, [target = target_, outline](const Place& place) {
+                agg::curve4 curve(place.x + kCurve[0].x, place.y + kCurve[0].y,
+                                  place.x + kCurve[1].x, place.y + kCurve[1].y,
+                                  place.x + kCurve[2].x, place.y + kCurve[2].y,
+                                  place.x + kCurve[3].x, place.y + kCurve[3].y);
+                outline->lines.add_path(curve);
+            });
+        }
+        return atPlaces(shapes_, [target = target_, outline,
+                                  radius = (workload_.width - 1) / 2.0](const Place& place) {
+            agg::arc arc(place.x + radius, place.y + radius, radius, radius,
+                         -agg::deg2rad(kArcStart), -agg::deg2rad(kArcEnd), false);
+            outline->lines.add_path(arc);
         });
     }
 

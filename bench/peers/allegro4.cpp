@@ -1,5 +1,6 @@
 // Allegro 4 memory bitmaps.
 #include "contender.h"
+#include "outlines.h"
 
 #define ALLEGRO_NO_MAGIC_MAIN
 #include <allegro.h>
@@ -127,6 +128,70 @@ Pass scroll(const Workload& workload, const Shapes& shapes, const Bitmap& target
     });
 }
 
+Pass polygons(const Workload& workload, const Shapes& shapes, const Bitmap& target) {
+    const int color = static_cast<int>(foreOf(workload.format));
+    std::vector<std::vector<int>> moved;
+    for (const Place& place : shapes.places) {
+        auto& points = moved.emplace_back();
+        for (const auto& [x, y] : polygonOf(workload.operation)) {
+            points.insert(points.end(), {place.x + x, place.y + y});
+        }
+    }
+    return [=]() mutable {
+        for (auto& points : moved) {
+            polygon(target.get(), static_cast<int>(points.size() / 2), points.data(), color);
+        }
+    };
+}
+
+/// Ellipses by `draw`, which takes the centre and the radii.
+Pass ellipses(const Workload& workload, const Shapes& shapes, const Bitmap& target,
+              void (*draw)(BITMAP*, int, int, int, int, int)) {
+    const int color = static_cast<int>(foreOf(workload.format));
+    return atPlaces(shapes,
+                    [=, rx = workload.width / 2, ry = workload.height / 2](const Place& place) {
+                        draw(target.get(), place.x + rx, place.y + ry, rx, ry, color);
+                    });
+}
+
+/// A full turn has 256 degrees here.
+Pass arcs(const Workload& workload, const Shapes& shapes, const Bitmap& target) {
+    const int color = static_cast<int>(foreOf(workload.format));
+    const fixed start = ftofix(kArcStart * 256.0 / 360);
+    const fixed end = ftofix(kArcEnd * 256.0 / 360);
+    return atPlaces(shapes, [=, radius = (workload.width - 1) / 2](const Place& place) {
+        arc(target.get(), place.x + radius, place.y + radius, start, end, radius, color);
+    });
+}
+
+Pass beziers(const Workload& workload, const Shapes& shapes, const Bitmap& target) {
+    const int color = static_cast<int>(foreOf(workload.format));
+    return atPlaces(shapes, [=](const Place& place) {
+        int points[2 * kCurve.size()];
+        for (size_t i = 0; i < kCurve.size(); ++i) {
+            points[2 * i] = place.x + kCurve[i].x;
+            points[2 * i + 1] = place.y + kCurve[i].y;
+        }
+        spline(target.get(), points, color);
+    });
+}
+
+/// It has neither rounded rectangles nor sectors.
+Pass shape(const Workload& workload, const Shapes& shapes, const Bitmap& target) {
+    switch (workload.operation) {
+    case Operation::Oval:
+        return ellipses(workload, shapes, target, ellipsefill);
+    case Operation::OvalLine:
+        return ellipses(workload, shapes, target, ellipse);
+    case Operation::Arc:
+        return arcs(workload, shapes, target);
+    case Operation::Bezier:
+        return beziers(workload, shapes, target);
+    default:
+        return isPolygon(workload.operation) ? polygons(workload, shapes, target) : Pass();
+    }
+}
+
 class Allegro4 final : public Contender {
   public:
     Allegro4() {
@@ -181,7 +246,7 @@ class Allegro4 final : public Contender {
         case Operation::Transfer:
             return transfer(workload, shapes, bitmapOn(canvas.source(), workload.source), target);
         default:
-            return {};
+            return shape(workload, shapes, target);
         }
     }
 

@@ -1,5 +1,6 @@
 // Cairo without antialiasing. It has no surface of three bytes a pixel.
 #include "contender.h"
+#include "outlines.h"
 
 #include <cairo.h>
 
@@ -85,6 +86,77 @@ Pass lines(const Shapes& shapes, const Context& context) {
     });
 }
 
+Pass polygons(const Workload& workload, const Shapes& shapes, const Context& context) {
+    cairo_set_fill_rule(context.get(), CAIRO_FILL_RULE_EVEN_ODD);
+    return atPlaces(shapes, [=, &polygon = polygonOf(workload.operation)](const Place& place) {
+        for (const auto& [x, y] : polygon) {
+            cairo_line_to(context.get(), place.x + x, place.y + y);
+        }
+        cairo_close_path(context.get());
+        cairo_fill(context.get());
+    });
+}
+
+double radians(int degrees) {
+    return -degrees * 3.14159265358979323846 / 180;
+}
+
+/// Part of the ellipse in a box, from one angle to another, added to the path.
+void addArc(cairo_t* context, double x, double y, double width, double height, int from, int to) {
+    cairo_save(context);
+    cairo_translate(context, x + width / 2, y + height / 2);
+    cairo_scale(context, width / 2, height / 2);
+    cairo_arc(context, 0, 0, 1, radians(from), radians(to));
+    cairo_restore(context);
+}
+
+void addRoundRect(cairo_t* context, double x, double y, double width, double height) {
+    constexpr double kSide = 2 * kCornerRadius;
+    const double right = x + width - kSide;
+    const double bottom = y + height - kSide;
+    cairo_new_path(context);
+    addArc(context, right, y, kSide, kSide, 90, 0);
+    addArc(context, right, bottom, kSide, kSide, 360, 270);
+    addArc(context, x, bottom, kSide, kSide, 270, 180);
+    addArc(context, x, y, kSide, kSide, 180, 90);
+    cairo_close_path(context);
+}
+
+/// Filled shapes have their box's edges for limits, outlines the middles of its pixels.
+Pass curves(const Workload& workload, const Shapes& shapes, const Context& shared) {
+    const bool fills = !runsOf(workload).empty();
+    const double inset = fills ? 0 : 0.5;
+    const auto draw = [=, operation = workload.operation, w = workload.width - 2 * inset,
+                       h = workload.height - 2 * inset](const Place& place) {
+        cairo_t* const context = shared.get();
+        const double x = place.x + inset;
+        const double y = place.y + inset;
+        switch (operation) {
+        case Operation::RoundRect:
+        case Operation::RoundRectLine:
+            addRoundRect(context, x, y, w, h);
+            break;
+        case Operation::Arc:
+            addArc(context, x, y, w, h, kArcEnd, kArcStart);
+            break;
+        case Operation::Pie:
+            cairo_move_to(context, x + w / 2, y + h / 2);
+            addArc(context, x, y, w, h, kArcEnd, kArcStart);
+            cairo_close_path(context);
+            break;
+        case Operation::Bezier:
+            cairo_move_to(context, x + kCurve[0].x, y + kCurve[0].y);
+            cairo_curve_to(context, x + kCurve[1].x, y + kCurve[1].y, x + kCurve[2].x,
+                           y + kCurve[2].y, x + kCurve[3].x, y + kCurve[3].y);
+            break;
+        default:
+            addArc(context, x, y, w, h, 360, 0);
+        }
+        fills ? cairo_fill(context) : cairo_stroke(context);
+    };
+    return atPlaces(shapes, draw);
+}
+
 class Cairo final : public Contender {
   public:
     std::string_view name() const override { return "cairo"; }
@@ -111,13 +183,22 @@ class Cairo final : public Contender {
             cairo_set_line_cap(context.get(), CAIRO_LINE_CAP_BUTT);
             return lines(shapes, context);
         }
+        case Operation::WideLine:
+            cairo_set_line_width(context.get(), kWidePen);
+            cairo_set_line_cap(context.get(), CAIRO_LINE_CAP_BUTT);
+            return lines(shapes, context);
         case Operation::Line:
             return lines(shapes, context);
         case Operation::Transfer:
             return transfer(workload, shapes, context,
                             surfaceOn(canvas.source(), kWidth, kHeight, workload.source));
-        default:
+        case Operation::Scroll:
+        case Operation::LineTo:
+        case Operation::Convert:
             return {};
+        default:
+            return isPolygon(workload.operation) ? polygons(workload, shapes, context)
+                                                 : curves(workload, shapes, context);
         }
     }
 };

@@ -1,10 +1,13 @@
 // The limit: what the C library's memory calls need for the same bytes, row by row as any drawing
-// on a surface has to go. Lines have their addresses worked out beforehand and only store.
+// on a surface has to go. Filled shapes have their spans worked out beforehand, lines their
+// addresses.
 #include "contender.h"
+#include "outlines.h"
 
 #include <algorithm>
 #include <cstdlib>
 #include <cstring>
+#include <vector>
 
 namespace bench {
 namespace {
@@ -54,6 +57,25 @@ void storeShape(Row row, uint8_t* at) {
 Pass fillRows(const Row& row, const Shapes& shapes, uint8_t* pixels) {
     return atPlaces(
         shapes, [=](const Place& place) { fillShape(row, pixels + row.offset(place.x, place.y)); });
+}
+
+/// The bare spans of a filled shape, one memset each.
+Pass fillRuns(const Row& row, const std::vector<Run>& runs, const Shapes& shapes, uint8_t* pixels) {
+    struct Piece {
+        size_t offset;
+        size_t bytes;
+    };
+    std::vector<Piece> pieces;
+    for (const Run& run : runs) {
+        const auto bytes = static_cast<size_t>((run.right - run.left + 1) * row.pixelBytes);
+        pieces.push_back({row.offset(run.left, run.y), bytes});
+    }
+    return atPlaces(shapes, [=](const Place& place) {
+        uint8_t* const corner = pixels + row.offset(place.x, place.y);
+        for (const auto& [offset, bytes] : pieces) {
+            std::memset(corner + offset, static_cast<int>(row.pixel & 0xFF), bytes);
+        }
+    });
 }
 
 Pass copyRows(const Row& row, const Shapes& shapes, uint8_t* pixels, const uint8_t* source) {
@@ -124,10 +146,15 @@ class Limit final : public Contender {
     Rule rule(const Workload&) const override { return Rule::Amount; }
 
     Pass prepare(const Workload& workload, const Shapes& shapes, Canvas& canvas) override {
-        if (workload.mode != Mode::Copy || workload.operation == Operation::Dash) {
+        if (workload.mode != Mode::Copy || workload.operation == Operation::Dash ||
+            workload.operation == Operation::WideLine) {
             return {};
         }
         const Row row = rowOf(workload);
+        if (isShape(workload.operation)) {
+            const std::vector<Run> runs = runsOf(workload);
+            return runs.empty() ? Pass() : fillRuns(row, runs, shapes, canvas.pixels());
+        }
         switch (workload.operation) {
         case Operation::Fill:
         case Operation::Pattern:

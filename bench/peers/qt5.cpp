@@ -2,12 +2,15 @@
 // Debian's AVX2 fills leave the upper halves of the registers in use, which slows what follows on
 // many processors; on others they are its best setting for large fills.
 #include "contender.h"
+#include "outlines.h"
 
 #include <QBrush>
 #include <QColor>
 #include <QImage>
 #include <QPainter>
+#include <QPainterPath>
 #include <QPen>
+#include <QPolygon>
 #include <QVector>
 
 #include <stdexcept>
@@ -104,6 +107,10 @@ Pass transfer(const Workload& workload, const Shapes& shapes, const Picture& pic
 
 Pass lines(const Workload& workload, const Shapes& shapes, const Picture& picture) {
     QPen pen(colorOf(workload.format, foreOf(workload.format)), 0);
+    if (workload.operation == Operation::WideLine) {
+        pen.setWidth(kWidePen);
+        pen.setCapStyle(Qt::FlatCap);
+    }
     if (workload.operation == Operation::Dash) {
         pen.setCapStyle(Qt::FlatCap);
         pen.setDashPattern({kDash, kDash});
@@ -112,6 +119,77 @@ Pass lines(const Workload& workload, const Shapes& shapes, const Picture& pictur
     return alongSegments(shapes, [=](const Segment& line) {
         picture->painter.drawLine(line.x1, line.y1, line.x2, line.y2);
     });
+}
+
+Pass polygons(const Workload& workload, const Shapes& shapes, const Picture& picture) {
+    QPolygon polygon;
+    for (const auto& [x, y] : polygonOf(workload.operation)) {
+        polygon << QPoint(x, y);
+    }
+    std::vector<QPolygon> moved;
+    for (const Place& place : shapes.places) {
+        moved.push_back(polygon.translated(place.x, place.y));
+    }
+    return [=] {
+        for (const QPolygon& at : moved) {
+            picture->painter.drawPolygon(at, Qt::OddEvenFill);
+        }
+    };
+}
+
+Pass beziers(const Shapes& shapes, const Picture& picture) {
+    return atPlaces(shapes, [=](const Place& place) {
+        const auto at = [&](size_t i) {
+            return QPointF(place.x + kCurve[i].x, place.y + kCurve[i].y);
+        };
+        QPainterPath path(at(0));
+        path.cubicTo(at(1), at(2), at(3));
+        picture->painter.drawPath(path);
+    });
+}
+
+/// Shapes in a rectangle, by draw(painter, rect).
+template <typename Draw>
+Pass inscribed(const Shapes& shapes, const Picture& picture, QSize size, Draw draw) {
+    return atPlaces(shapes, [=](const Place& place) {
+        draw(picture->painter, QRect(QPoint(place.x, place.y), size));
+    });
+}
+
+/// Filled shapes have no pen and outlines no brush. An outline's rectangle is that of its middle.
+Pass shape(const Workload& workload, const Shapes& shapes, const Picture& picture) {
+    constexpr int kSixteenths = 16;
+    constexpr int kStart = kArcStart * kSixteenths;
+    constexpr int kSpan = (kArcEnd - kArcStart) * kSixteenths;
+    constexpr int kRadius = kCornerRadius;
+    const QColor color = colorOf(workload.format, foreOf(workload.format));
+    const bool fills = !runsOf(workload).empty();
+    picture->painter.setPen(fills ? QPen(Qt::NoPen) : QPen(color, 0));
+    picture->painter.setBrush(fills ? QBrush(color) : QBrush(Qt::NoBrush));
+    const QSize size = QSize(workload.width, workload.height) - (fills ? QSize(0, 0) : QSize(1, 1));
+    switch (workload.operation) {
+    case Operation::Oval:
+    case Operation::OvalLine:
+        return inscribed(shapes, picture, size,
+                         [](QPainter& painter, QRect rect) { painter.drawEllipse(rect); });
+    case Operation::RoundRect:
+    case Operation::RoundRectLine:
+        return inscribed(shapes, picture, size, [](QPainter& painter, QRect rect) {
+            painter.drawRoundedRect(rect, kRadius, kRadius);
+        });
+    case Operation::Arc:
+        return inscribed(shapes, picture, size, [](QPainter& painter, QRect rect) {
+            painter.drawArc(rect, kStart, kSpan);
+        });
+    case Operation::Pie:
+        return inscribed(shapes, picture, size, [](QPainter& painter, QRect rect) {
+            painter.drawPie(rect, kStart, kSpan);
+        });
+    case Operation::Bezier:
+        return beziers(shapes, picture);
+    default:
+        return polygons(workload, shapes, picture);
+    }
 }
 
 class Qt5 final : public Contender {
@@ -136,13 +214,14 @@ class Qt5 final : public Contender {
             return pattern(workload, shapes, picture);
         case Operation::Line:
         case Operation::Dash:
+        case Operation::WideLine:
             return lines(workload, shapes, picture);
         case Operation::Transfer:
         case Operation::Convert:
             return transfer(workload, shapes, picture,
                             imageOn(canvas.source(), kWidth, kHeight, workload.source));
         default:
-            return {};
+            return isShape(workload.operation) ? shape(workload, shapes, picture) : Pass();
         }
     }
 };

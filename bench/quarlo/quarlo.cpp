@@ -1,5 +1,6 @@
 // The library through its public calls, on memory surfaces attached to draw handles.
 #include "contender.h"
+#include "outlines.h"
 
 #include <quarlo/draw.h>
 #include <quarlo/handle.h>
@@ -130,6 +131,84 @@ Pass scroll(const Workload& workload, const Shapes& shapes, Drawing& drawing) {
     });
 }
 
+/// Polygons are points that a program has; they are moved to their places beforehand.
+Pass polygons(const Workload& workload, const Shapes& shapes, GDrawHandle* handle) {
+    std::vector<std::vector<GPoint>> moved;
+    for (const Place& place : shapes.places) {
+        auto& points = moved.emplace_back();
+        for (const auto& [x, y] : polygonOf(workload.operation)) {
+            points.push_back({narrow(place.x + x), narrow(place.y + y)});
+        }
+    }
+    return [=]() mutable {
+        for (auto& points : moved) {
+            GPoly poly = {narrow(static_cast<int>(points.size())), points.data(), {}};
+            GDDrawPoly(handle, &poly);
+        }
+    };
+}
+
+/// Shapes in a rectangle, by draw(rect).
+template <typename Draw>
+Pass inscribed(const Workload& workload, const Shapes& shapes, Draw draw) {
+    return atPlaces(shapes, [=, w = workload.width, h = workload.height](const Place& place) {
+        const GRect rect = {place.x, place.y, last(place.x, w), last(place.y, h)};
+        draw(rect);
+    });
+}
+
+Pass beziers(const Shapes& shapes, GDrawHandle* handle) {
+    return atPlaces(shapes, [=](const Place& place) {
+        GPoint points[kCurve.size()];
+        for (size_t i = 0; i < kCurve.size(); ++i) {
+            points[i] = {narrow(place.x + kCurve[i].x), narrow(place.y + kCurve[i].y)};
+        }
+        const GPoly poly = {4, points, {}};
+        GDDrawBezier(handle, &poly);
+    });
+}
+
+Pass curves(const Workload& workload, const Shapes& shapes, GDrawHandle* handle) {
+    constexpr int kTenths = 10;
+    switch (workload.operation) {
+    case Operation::Oval:
+    case Operation::OvalLine:
+        return inscribed(workload, shapes, [=](const GRect& rect) { GDDrawOval(handle, &rect); });
+    case Operation::RoundRect:
+    case Operation::RoundRectLine:
+        return inscribed(workload, shapes, [=](const GRect& rect) {
+            GDDrawRRect(handle, &rect, kCornerRadius, kCornerRadius);
+        });
+    case Operation::Arc:
+        return inscribed(workload, shapes, [=](const GRect& rect) {
+            GDDrawArc(handle, &rect, kArcStart * kTenths, kArcEnd * kTenths);
+        });
+    case Operation::Pie:
+        return inscribed(workload, shapes, [=](const GRect& rect) {
+            GDDrawPie(handle, &rect, kArcStart * kTenths, kArcEnd * kTenths);
+        });
+    case Operation::Bezier:
+        return beziers(shapes, handle);
+    default:
+        return {};
+    }
+}
+
+/// Whether a workload draws with the pen rather than fill.
+bool isDrawnWithPen(Operation operation) {
+    switch (operation) {
+    case Operation::Span:
+    case Operation::Column:
+    case Operation::OvalLine:
+    case Operation::RoundRectLine:
+    case Operation::Arc:
+    case Operation::Bezier:
+        return true;
+    default:
+        return isLine(operation);
+    }
+}
+
 class Quarlo final : public Contender {
   public:
     std::string_view name() const override { return "quarlo"; }
@@ -148,6 +227,7 @@ class Quarlo final : public Contender {
         case Operation::Column:
             return straightLines(workload, shapes, handle);
         case Operation::Line:
+        case Operation::WideLine:
             return lines(shapes, handle);
         case Operation::LineTo:
         case Operation::Dash:
@@ -157,8 +237,11 @@ class Quarlo final : public Contender {
             return transfer(workload, shapes, drawingOn(canvas, workload.source).source(), drawing);
         case Operation::Scroll:
             return scroll(workload, shapes, drawing);
+        default:
+            break;
         }
-        return {};
+        return isPolygon(workload.operation) ? polygons(workload, shapes, handle)
+                                             : curves(workload, shapes, handle);
     }
 
   private:
@@ -171,13 +254,15 @@ class Quarlo final : public Contender {
     }
 
     static void setState(GDrawHandle* handle, const Workload& workload) {
-        const bool fills =
-            workload.operation == Operation::Fill || workload.operation == Operation::Pattern;
+        const bool draws = isDrawnWithPen(workload.operation);
+        const int16_t pen = workload.operation == Operation::WideLine ? kWidePen : 1;
         GDSetDrawingMode(handle, static_cast<int>(workload.mode));
         GDSetFillColor(handle, foreOf(workload.format), backOf(workload.format));
-        GDSetPenColor(handle, fills ? G_NO_COLOR : foreOf(workload.format));
+        GDSetPenColor(handle, draws ? foreOf(workload.format) : G_NO_COLOR);
+        GDSetPenSize(handle, pen, pen);
         GDSetPenDash(handle, workload.operation == Operation::Dash ? kDashNumber : 0);
         GDSetFillPattern(handle, workload.operation == Operation::Pattern ? kPatternNumber
+                                 : draws                                  ? int{G_FILL_NONE}
                                                                           : int{G_FILL_FORE});
     }
 
