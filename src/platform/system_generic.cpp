@@ -1,7 +1,8 @@
-// Systems without a message loop of their own leave messages to the platform library.
+// Systems without a message loop and code pages of their own leave both to the platform library.
 #include "platform/system.h"
 
 #include <gpi/gpi.h>
+#include <quarlo/convert.h>
 
 namespace quarlo {
 
@@ -11,6 +12,13 @@ void translateMessage(GMessage& message) {
 
 void dispatchMessage(GMessage& message) {
     GPIDispatchMessage(&message);
+}
+
+void systemTextToUnicode(const char* text, char16_t* out, int32_t units) {
+    if (text != nullptr) {
+        GRCMultiByteToUnicode(text, -1, out, units);
+        out[units - 1] = u'\0';
+    }
 }
 
 } // namespace quarlo

@@ -1,6 +1,7 @@
 #include "raster/kernel/kernels.h"
 
 #include "raster/kernel/fill.h"
+#include "raster/kernel/glyph.h"
 #include "raster/kernel/line.h"
 #include "raster/kernel/mode.h"
 #include "raster/kernel/spans.h"
@@ -17,6 +18,7 @@ constexpr Kernels kKernels = {
     fillPatternSpans<Format, Mode>,
     line<Format, Mode>,
     dashedLine<Format, Mode>,
+    drawGlyph<Format, Mode>,
     putPixel<Format, Mode>,
 };
 

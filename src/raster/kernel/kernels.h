@@ -35,6 +35,15 @@ struct Span {
     int16_t y;
 };
 
+/// The visible part of a glyph's bitmap. Pixels stand in the highest bits first, and none straddles
+/// two bytes.
+struct GlyphBits {
+    const uint8_t* bits; ///< the first visible row
+    ptrdiff_t stride;
+    int32_t bitsPerPixel; ///< 1, 2, 4 or 8
+    int32_t firstPixel;   ///< the first visible pixel of a row
+};
+
 /// All kernels of one format and mode. Counts are at least 1.
 struct Kernels {
     int32_t bytesPerPixel;
@@ -60,6 +69,10 @@ struct Kernels {
     /// Null when every step fell into a gap.
     uint8_t* (*dashedLine)(uint8_t* at, const LineSteps& steps, const DashSteps& dash,
                            uint32_t pixel);
+
+    /// The pixels of a glyph that have any bit set. Null when none has.
+    uint8_t* (*glyph)(uint8_t* at, ptrdiff_t stride, const GlyphBits& glyph, int32_t width,
+                      int32_t height, uint32_t pixel);
 
     void (*putPixel)(uint8_t* at, uint32_t pixel);
 };
