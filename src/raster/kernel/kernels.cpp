@@ -5,6 +5,7 @@
 #include "raster/kernel/line.h"
 #include "raster/kernel/mode.h"
 #include "raster/kernel/spans.h"
+#include "raster/kernel/values.h"
 
 namespace quarlo::kernel {
 namespace {
@@ -19,6 +20,7 @@ constexpr Kernels kKernels = {
     line<Format, Mode>,
     dashedLine<Format, Mode>,
     drawGlyph<Format, Mode>,
+    putValues<Format, Mode>,
     putPixel<Format, Mode>,
 };
 

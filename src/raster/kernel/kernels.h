@@ -74,6 +74,9 @@ struct Kernels {
     uint8_t* (*glyph)(uint8_t* at, ptrdiff_t stride, const GlyphBits& glyph, int32_t width,
                       int32_t height, uint32_t pixel);
 
+    /// Pixels of the format's size, one after the other.
+    uint8_t* (*putValues)(uint8_t* at, const uint8_t* values, int32_t count);
+
     void (*putPixel)(uint8_t* at, uint32_t pixel);
 };
 

@@ -1,0 +1,228 @@
+// GRF images at their natural size.
+#include "draw/clip.h"
+#include "geometry/view.h"
+#include "image/grf_format.h"
+#include "image/grf_reader.h"
+#include "raster/canvas.h"
+
+#include <quarlo/image.h>
+
+namespace quarlo {
+namespace {
+
+/// Where an image goes, and what of it can be seen, in surface coordinates.
+struct Placement {
+    GPoint origin;
+    GRect visible;
+    bool whole; ///< all of the image can be seen
+};
+
+/// Puts pieces of direct values on a canvas. Pieces lie within the visible columns.
+class DirectPainter {
+  public:
+    DirectPainter(const Canvas& canvas, int32_t unitBytes, bool whole)
+        : canvas_(canvas), unitBytes_(unitBytes), whole_(whole) {}
+
+    void literal(int32_t x, int32_t y, int32_t count, const uint8_t* units) const {
+        if (canvas_.kernels != nullptr) {
+            literalByKernel(canvas_.addressOf(x, y), count, units);
+            return;
+        }
+        for (int32_t i = 0; i < count; ++i, units += unitBytes_) {
+            plot(x + i, y, readUnit(units, unitBytes_));
+        }
+    }
+
+    /// One span of a whole image; a clipped one has its pixels plotted singly.
+    void fill(int32_t x, int32_t y, int32_t count, const uint8_t* unit) const {
+        const uint32_t value = readUnit(unit, unitBytes_);
+        if (whole_ || canvas_.kernels != nullptr) {
+            canvas_.span(low16(x), low16(y), count, value, canvas_.handle.drawingMode);
+            return;
+        }
+        for (int32_t i = 0; i < count; ++i) {
+            plot(x + i, y, value);
+        }
+    }
+
+  private:
+    void plot(int32_t x, int32_t y, uint32_t value) const {
+        canvas_.setPixel(low16(x), low16(y), value, canvas_.handle.drawingMode);
+    }
+
+    void literalByKernel(uint8_t* at, int32_t count, const uint8_t* units) const {
+        const kernel::Kernels& kernels = *canvas_.kernels;
+        const uint8_t* const last = units + (count - 1) * ptrdiff_t{unitBytes_};
+        const uint8_t* const end = at + count * ptrdiff_t{kernels.bytesPerPixel};
+        if (unitBytes_ == kernels.bytesPerPixel) {
+            kernels.putValues(at, units, count);
+        } else {
+            for (; at != end; at += kernels.bytesPerPixel, units += unitBytes_) {
+                kernels.putPixel(at, readUnit(units, unitBytes_));
+            }
+            at -= count * ptrdiff_t{kernels.bytesPerPixel};
+        }
+        canvas_.leaveCell(readUnit(last, unitBytes_),
+                          at + count * ptrdiff_t{kernels.bytesPerPixel});
+    }
+
+    const Canvas& canvas_;
+    const int32_t unitBytes_;
+    const bool whole_;
+};
+
+void drawDirect(const Canvas& canvas, const GGrfImage& image, const uint8_t* stream,
+                const Placement& place) {
+    const int32_t unitBytes = bytesOfUnit(image);
+    const DirectPainter painter(canvas, unitBytes, place.whole);
+    const GRect& visible = place.visible;
+    GrfReader reader(stream, image.width, unitBytes);
+    GrfPiece piece;
+    for (int32_t row = 0; row < image.height && place.origin.y + row <= visible.bottom;
+         row = reader.row()) {
+        if (!reader.next(piece)) {
+            return;
+        }
+        const int32_t y = place.origin.y + row;
+        const int32_t first = place.origin.x + piece.x;
+        const int32_t left = std::max<int32_t>(first, visible.left);
+        const int32_t right = std::min<int32_t>(first + piece.count - 1, visible.right);
+        if (piece.kind == GrfPiece::Skip || y < visible.top || left > right) {
+            continue;
+        }
+        if (piece.kind == GrfPiece::Fill) {
+            painter.fill(left, y, right - left + 1, piece.units);
+        } else {
+            painter.literal(left, y, right - left + 1, piece.units + (left - first) * unitBytes);
+        }
+    }
+}
+
+/// Walks through the pixels of a packed image: skips count pixels, every other unit holds several.
+class PackedPainter {
+  public:
+    PackedPainter(const Canvas& canvas, const GGrfImage& image, const Placement& place)
+        : canvas_(canvas), image_(image), place_(place), packing_(image) {}
+
+    void draw(const uint8_t* at) {
+        while (!isDone() && *at != 0) {
+            const uint8_t control = *at++;
+            const int32_t count = control & 0x3F;
+            const int32_t kind = control >> 6;
+            if (kind == 0) {
+                ++at; // a byte of any value
+                advance(count);
+            } else if (kind == 1) {
+                for (int32_t i = 0; i < count && !isDone(); ++i, at += packing_.bytes) {
+                    plotUnit(readUnit(at, packing_.bytes));
+                }
+            } else if (kind == 3) {
+                const uint32_t unit = readUnit(at, packing_.bytes);
+                at += packing_.bytes;
+                for (int32_t i = 0; i < count && !isDone(); ++i) {
+                    plotUnit(unit);
+                }
+            }
+        }
+    }
+
+  private:
+    bool isDone() const {
+        return y_ >= image_.height || place_.origin.y + y_ > place_.visible.bottom;
+    }
+
+    void advance(int32_t pixels) {
+        x_ += pixels;
+        y_ += x_ / image_.width;
+        x_ %= image_.width;
+    }
+
+    void plotUnit(uint32_t unit) {
+        for (int32_t i = 0; i < packing_.pixels && y_ < image_.height; ++i) {
+            const int32_t x = place_.origin.x + x_;
+            const int32_t y = place_.origin.y + y_;
+            if (contains(place_.visible, x, y)) {
+                plot(x, y, image_.palette->colors[packing_.index(unit, i)]);
+            }
+            if (++x_ == image_.width) {
+                x_ = 0;
+                ++y_;
+            }
+        }
+    }
+
+    void plot(int32_t x, int32_t y, uint32_t value) const {
+        if (canvas_.kernels != nullptr) {
+            uint8_t* const at = canvas_.addressOf(x, y);
+            canvas_.kernels->putPixel(at, value);
+            canvas_.leaveCell(value, at + canvas_.kernels->bytesPerPixel);
+        } else {
+            canvas_.setPixel(low16(x), low16(y), value, canvas_.handle.drawingMode);
+        }
+    }
+
+    const Canvas& canvas_;
+    const GGrfImage& image_;
+    const Placement& place_;
+    const Packing packing_;
+    int32_t x_ = 0;
+    int32_t y_ = 0;
+};
+
+/// The box on the surface that an image fills at its natural size.
+GRect naturalBox(const GDrawHandle& handle, const GGrfImage& image, GPoint origin) {
+    mapToScreen(handle, origin);
+    return {origin.x, origin.y, low16(std::min<int32_t>(origin.x + image.width - 1, INT16_MAX)),
+            low16(std::min<int32_t>(origin.y + image.height - 1, INT16_MAX))};
+}
+
+/// The same for a box in application coordinates, cut to the image's size; nothing is stretched.
+GRect croppedBox(const GDrawHandle& handle, const GGrfImage& image, GRect box) {
+    mapToScreen(handle, box);
+    box.right = low16(std::min<int32_t>(box.right, box.left + image.width - 1));
+    box.bottom = low16(std::min<int32_t>(box.bottom, box.top + image.height - 1));
+    return box;
+}
+
+void draw(GDrawHandle* handle, const GGrfImage& image, const uint8_t* stream, const GRect& box) {
+    const Canvas canvas(*handle);
+    Placement place{{box.left, box.top}, box, false};
+    if (!isValid(canvas.area) || !clipTo(place.visible, canvas.area)) {
+        return;
+    }
+    place.whole =
+        contains(canvas.area, box) && widthOf(box) == image.width && heightOf(box) == image.height;
+    if (isPacked(image)) {
+        PackedPainter(canvas, image, place).draw(stream);
+    } else {
+        drawDirect(canvas, image, stream, place);
+    }
+}
+
+} // namespace
+} // namespace quarlo
+
+using namespace quarlo;
+
+int32_t GDDrawGrf(GDrawHandle* handle, const GGrfImage* image, const uint8_t* stream, int16_t x,
+                  int16_t y, int16_t width, int16_t height) {
+    if (stream == nullptr) {
+        return 0;
+    }
+    if (isReadable(*image)) {
+        const GRect box =
+            width <= 0 || height <= 0
+                ? naturalBox(*handle, *image, {x, y})
+                : croppedBox(*handle, *image, {x, y, low16(x + width - 1), low16(y + height - 1)});
+        draw(handle, *image, stream, box);
+    }
+    return 1;
+}
+
+int32_t GDDrawImage(GDrawHandle* handle, GGrfImage* const* image, int16_t x, int16_t y,
+                    int16_t width, int16_t height) {
+    if (image == nullptr || *image == nullptr) {
+        return 0;
+    }
+    return GDDrawGrf(handle, *image, (*image)->data, x, y, width, height);
+}
