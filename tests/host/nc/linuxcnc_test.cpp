@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cmath>
 #include <filesystem>
+#include <fstream>
 #include <memory>
 #include <set>
 
@@ -39,6 +40,12 @@ class LinuxCnc {
         waitpid(process_, nullptr, 0);
     }
 
+    /// What it says.
+    std::string log() const {
+        std::ifstream file(folder_ + "/log");
+        return {std::istreambuf_iterator<char>(file), {}};
+    }
+
     static bool installed() {
         return std::filesystem::exists("/usr/bin/linuxcnc") &&
                std::filesystem::exists("/usr/share/doc/linuxcnc/examples");
@@ -63,7 +70,7 @@ class LinuxCncServices : public testing::Test {
                                 {"QUARLO_NC_HELPER", LINUXCNC_HELPER},
                                 {"QUARLO_FILES", folder->path()},
                                 {"HOME", folder->path("home")}});
-        EXPECT_TRUE(comes());
+        EXPECT_TRUE(comes()) << control->log();
     }
     static void TearDownTestSuite() {
         platform.reset();
@@ -302,7 +309,7 @@ TEST_F(LinuxCncServices, LoseTheControlAndFindItAgain) {
     EXPECT_EQ(value(G_NC_ALARM), GPI_NC_ALARM_CONTROL_LOST);
     EXPECT_EQ(text(G_NC_ALARM_TEXT), u"the control does not answer: LinuxCNC has ended");
     control = std::make_unique<LinuxCnc>(folder->path());
-    ASSERT_TRUE(comes());
+    ASSERT_TRUE(comes()) << control->log();
     makeReady(G_NC_MODE_MANUAL);
     EXPECT_EQ(system(G_NC_SYSTEM_STATE), G_NC_STATE_IDLE);
 }
