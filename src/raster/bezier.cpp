@@ -1,7 +1,9 @@
 // Cubic Bezier curves, as chains of straight lines.
+#include "geometry/view.h"
+#include "raster/line.h"
+
 #include <quarlo/draw.h>
 #include <quarlo/handle.h>
-#include <quarlo/line.h>
 
 #include <algorithm>
 #include <array>
@@ -58,15 +60,16 @@ void GDDrawBezier(GDrawHandle* handle, const GPoly* poly) {
     if (handle->penPixel == G_NO_COLOR) {
         return;
     }
+    const Canvas canvas(*handle);
     GPoint from = poly->points[0];
     for (int32_t step = 1; step <= kSteps; ++step) {
         const GPoint to = pointOf(poly->points, kWeights[static_cast<size_t>(step)]);
         if (to.x == from.x && to.y == from.y) {
             continue;
         }
-        GLine line;
-        GLSetLine(&line, from.x, from.y, to.x, to.y);
-        GDDrawLine(handle, &line);
+        GLine line{from.x, from.y, to.x, to.y};
+        mapToScreen(*handle, line);
+        GDRasterLine(canvas, line);
         from = to;
     }
 }

@@ -14,6 +14,8 @@ class RowRuns {
   public:
     static constexpr int32_t kMost = 10; ///< two of each quarter of an arc, and two radii
 
+    void clear() { count_ = 0; }
+
     /// Adds a run in its place; nothing when its ends stand the other way.
     void add(int32_t left, int32_t right) {
         if (left > right) {

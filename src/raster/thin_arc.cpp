@@ -39,7 +39,7 @@ void ThinArc::addQuarter(RowRuns& runs, int32_t quadrant, const Piece& piece) co
         return;
     }
     if (!starts && !ends) {
-        if (arc_.holdsQuarter(quadrant)) {
+        if (whole_[quadrant]) {
             add(runs, quadrant, piece);
         }
         return;

@@ -20,7 +20,11 @@ class ThinArc {
     };
 
     ThinArc(const Ellipse& ellipse, const ArcSpan& arc, Tips tips)
-        : ellipse_(ellipse), arc_(arc), tips_(tips) {}
+        : ellipse_(ellipse), arc_(arc), tips_(tips) {
+        for (int32_t quadrant = 0; quadrant < 4; ++quadrant) {
+            whole_[quadrant] = arc.holdsQuarter(quadrant);
+        }
+    }
 
     /// Calls action(runs, row) once for every row of the ellipse, with what lies on it.
     template <typename Action>
@@ -34,7 +38,7 @@ class ThinArc {
             addQuarter(runs, 1, piece);
             if (upper != lower) {
                 action(runs, upper);
-                runs = RowRuns();
+                runs.clear();
             }
             addQuarter(runs, 2, piece);
             addQuarter(runs, 3, piece);
@@ -59,6 +63,7 @@ class ThinArc {
     const Ellipse& ellipse_;
     const ArcSpan& arc_;
     const Tips tips_;
+    bool whole_[4]; ///< the quarters that the arc holds from end to end
 };
 
 } // namespace quarlo

@@ -8,7 +8,7 @@
 // One copy of a function for every processor and one for those with 32-byte vectors, chosen when
 // the library is loaded. It halves the time of
 // full-screen fills.
-#if defined(__x86_64__) && defined(__gnu_linux__)
+#if defined(__x86_64__) && defined(__gnu_linux__) && !defined(__SANITIZE_THREAD__)
 #define QUARLO_WIDEST __attribute__((target_clones("default", "avx2")))
 #else
 #define QUARLO_WIDEST
