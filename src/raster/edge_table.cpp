@@ -1,5 +1,6 @@
 #include "raster/edge_table.h"
 
+#include "geometry/geometry.h"
 #include "memory/memory.h"
 
 #include <cstddef>
@@ -23,37 +24,10 @@ const int16_t* columnsOf(const GPoint* run) {
     }
 }
 
-bool precedesDown(const GEdge& a, const GEdge& b) {
+/// An object, not a function, so that sorting compares in place.
+constexpr auto kDown = [](const GEdge& a, const GEdge& b) {
     return a.yTop != b.yTop ? a.yTop < b.yTop : a.order < b.order;
-}
-
-bool precedesAcross(const GEdge& a, const GEdge& b) {
-    return a.x != b.x ? a.x < b.x : a.order < b.order;
-}
-
-/// Moves each edge back to its place. From line to line few edges change places, so this takes one
-/// comparison an edge; false when so many did that another method is faster.
-bool sortByInsertion(GEdge* first, GEdge* last) {
-    constexpr std::ptrdiff_t kMovesPerEdge = 8;
-    std::ptrdiff_t moves = (last - first) * kMovesPerEdge;
-    for (GEdge* edge = first + 1; edge < last; ++edge) {
-        if (edge[0].x >= edge[-1].x) {
-            continue;
-        }
-        const GEdge moved = *edge;
-        GEdge* place = edge;
-        do {
-            *place = place[-1];
-            --place;
-            --moves;
-        } while (place != first && moved.x < place[-1].x);
-        *place = moved;
-        if (moves < 0) {
-            return false;
-        }
-    }
-    return true;
-}
+};
 
 } // namespace
 
@@ -83,7 +57,7 @@ bool EdgeTable::build(const GPoly& poly, Tables tables) {
         }
     }
     addStraight(poly.points[0], poly.points[at]);
-    std::sort(state_.edges, end_, precedesDown);
+    std::sort(state_.edges, end_, kDown);
     state_.active = state_.pending = state_.edges;
     return end_ - state_.edges >= 2;
 }
@@ -94,90 +68,77 @@ void EdgeTable::addStraight(const GPoint& from, const GPoint& to) {
     }
     const GPoint& upper = from.y < to.y ? from : to;
     const GPoint& lower = from.y < to.y ? to : from;
-    const int64_t across = int64_t{lower.x - upper.x} * (1 << kFraction);
-    GEdge edge{};
-    edge.step = static_cast<int32_t>(across / (lower.y - upper.y));
-    edge.x = upper.x * (1 << kFraction);
-    const int32_t skipped = std::max(top_ - upper.y, 0);
-    if (upper.y + skipped <= lower.y) {
-        edge.x += static_cast<int32_t>(int64_t{edge.step} * skipped);
+    GEdge* const edge = add(upper.y, lower.y);
+    if (edge != nullptr) {
+        edge->step = (lower.x - upper.x) * (1 << kFraction) / (lower.y - upper.y);
+        edge->x = upper.x * (1 << kFraction) + edge->step * (edge->yTop - upper.y);
     }
-    add(edge, upper.y, lower.y);
 }
 
 void EdgeTable::addTable(const GPoint* run) {
     const int32_t first = std::min(run[0].y, run[3].y);
     const int32_t last = std::max(run[0].y, run[3].y);
-    const int32_t start = std::max(first, top_);
-    if (start > last) {
-        return;
+    GEdge* const edge = add(first, last);
+    if (edge != nullptr) {
+        const bool bottomUp = run[1].y != first;
+        edge->flags = kFromTable | (bottomUp ? kBottomUp : 0);
+        edge->table = columnsOf(run) + (bottomUp ? last - edge->yTop : edge->yTop - first);
+        edge->x = *edge->table * (1 << kFraction);
     }
-    const bool bottomUp = run[1].y != first;
-    GEdge edge{};
-    edge.flags = kFromTable | (bottomUp ? kBottomUp : 0);
-    edge.table = columnsOf(run) + (bottomUp ? last - start : start - first);
-    edge.x = *edge.table * (1 << kFraction);
-    add(edge, first, last);
 }
 
-/// Keeps the lines that can be seen. Behind the last of them one more is kept, on which an edge
-/// that goes on is not yet on its last line.
-void EdgeTable::add(GEdge& edge, int32_t first, int32_t last) {
-    first = std::max(first, top_);
-    last = std::min(last, bottom_ + 1);
-    if (first > last || first > bottom_) {
-        return;
+/// A new edge on the lines that can be seen, or null where none can. Behind the last of them one
+/// more is kept, on which an edge that goes on is not yet on its last line.
+GEdge* EdgeTable::add(int32_t first, int32_t last) {
+    first = std::max<int32_t>(first, area_.top);
+    last = std::min(last, area_.bottom + 1);
+    if (first > last || first > area_.bottom) {
+        return nullptr;
     }
-    edge.yTop = static_cast<int16_t>(first);
-    edge.linesLeft = static_cast<uint16_t>(last - first + 1);
-    edge.order = static_cast<uint32_t>(end_ - state_.edges);
-    *end_++ = edge;
-}
-
-bool EdgeTable::advanceTo(int32_t y) {
-    dropFinished();
-    admit(y);
-    sortActive();
-    return state_.active != state_.pending;
-}
-
-/// Brings the active edges to the next line and closes the gaps of those that end, towards the
-/// pending ones.
-void EdgeTable::dropFinished() {
-    GEdge* kept = state_.pending;
-    for (GEdge* edge = state_.pending; edge != state_.active;) {
-        --edge;
-        if (--edge->linesLeft == 0) {
-            continue;
-        }
-        if ((edge->flags & kFromTable) == 0) {
-            edge->x += edge->step;
-        } else {
-            edge->table += (edge->flags & kBottomUp) != 0 ? -1 : 1;
-            edge->x = *edge->table * (1 << kFraction);
-        }
-        if (--kept != edge) {
-            *kept = *edge;
-        }
-    }
-    state_.active = kept;
+    end_->yTop = static_cast<int16_t>(first);
+    end_->linesLeft = static_cast<uint16_t>(last - first + 1);
+    end_->order = static_cast<uint32_t>(end_ - state_.edges);
+    return end_++;
 }
 
 void EdgeTable::admit(int32_t y) {
-    while (state_.pending != end_ && state_.pending->yTop == y) {
-        ++state_.pending;
+    for (; state_.pending != end_ && state_.pending->yTop == y; ++state_.pending) {
+        state_.edges[active_++].order = static_cast<uint32_t>(state_.pending - state_.edges);
     }
 }
 
+/// From line to line few edges change places, if any. Where many do, their crossings are counted
+/// from then on, or, on areas too wide for that, sorted by a method that takes long ways at once.
 void EdgeTable::sortActive() {
-    if (sortByInsertion(state_.active, state_.pending)) {
+    constexpr int64_t kMovesPerEdge = 8;
+    if (counts_ || sortByInsertion(std::max(sorted_, 1), 1, active_ * kMovesPerEdge)) {
         return;
     }
-    uint32_t order = 0;
-    for (GEdge* edge = state_.active; edge != state_.pending; ++edge) {
-        edge->order = order++;
+    if (widthOf(area_) <= CrossingCounts::kMostColumns) {
+        counts_.emplace(area_.left, area_.right);
+        return;
     }
-    std::sort(state_.active, state_.pending, precedesAcross);
+    // Gaps for the method of Shell by Ciura (2001).
+    for (const int32_t gap : {8858, 3937, 1750, 701, 301, 132, 57, 23, 10, 4, 1}) {
+        sortByInsertion(gap, gap, INT64_MAX);
+    }
+}
+
+/// Moves each edge back to its place among those a gap apart; equal x keep their order. False when
+/// that took too many moves.
+bool EdgeTable::sortByInsertion(int32_t from, int32_t gap, int64_t mostMoves) {
+    GEdge* const edges = state_.edges;
+    for (int32_t i = from; i < active_ && mostMoves >= 0; ++i) {
+        const uint32_t moved = edges[i].order;
+        const int32_t x = edges[moved].x;
+        int32_t place = i;
+        for (; place >= gap && x < active(place - gap).x; place -= gap) {
+            edges[place].order = edges[place - gap].order;
+            --mostMoves;
+        }
+        edges[place].order = moved;
+    }
+    return mostMoves >= 0;
 }
 
 } // namespace quarlo

@@ -32,12 +32,9 @@ Paint describeFill(GDrawHandle& handle, uint32_t fore, uint32_t back, int32_t pa
 void fillPolygon(const Canvas& canvas, const GPoly& poly, const Paint& paint, int32_t mode,
                  Tables tables) {
     SpanPainter painter(canvas, paint, mode);
-    EdgeTable edges(canvas.handle.polygon, painter.top(), painter.bottom());
-    if (painter.top() > painter.bottom() || !edges.build(poly, tables)) {
-        return;
-    }
-    for (int32_t y = edges.firstLine(); y <= painter.bottom() && edges.advanceTo(y); ++y) {
-        edges.paintLine(painter, y);
+    EdgeTable edges(canvas.handle.polygon, painter.area());
+    if (isValid(painter.area()) && edges.build(poly, tables)) {
+        edges.paint(painter);
     }
 }
 

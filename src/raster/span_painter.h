@@ -27,7 +27,8 @@ class SpanPainter {
     SpanPainter(const SpanPainter&) = delete;
     SpanPainter& operator=(const SpanPainter&) = delete;
 
-    /// The rows on which anything can be seen.
+    /// Where anything can be seen.
+    const GRect& area() const { return area_; }
     int32_t top() const { return area_.top; }
     int32_t bottom() const { return area_.bottom; }
 

@@ -293,6 +293,36 @@ TEST_F(Polygon, HandsEachRunToAPlatformThatDrawsItself) {
     });
 }
 
+/// Hundreds of flat edges, most of which change places from each line to the next.
+Fill randomTangle(Random& random) {
+    Fill fill{std::vector<GPoint>(static_cast<size_t>(random.between(100, 400))), -1, 0};
+    for (GPoint& point : fill.points) {
+        point = {static_cast<int16_t>(random.between(-300, 6300)),
+                 static_cast<int16_t>(random.between(-3, 16))};
+    }
+    return fill;
+}
+
+// Areas up to 4094 columns have the crossings of such edges counted by column.
+TEST_F(Polygon, PairsCrossingsOfEdgesThatChangePlaces) {
+    for (const int16_t right : std::initializer_list<int16_t>{57, 4098, 4099, 5997}) {
+        const GRect area{5, 0, right, 11};
+        forRandomCalls(12, 1, randomTangle, [&](const std::vector<Fill>& fills) -> std::string {
+            std::vector<PaintedRun> runs;
+            platform.serve<68>([&](GDrawHandle*, GVram*, const GRect* rect, uint32_t, int32_t) {
+                runs.push_back({rect->left, rect->right, rect->top});
+                return 1;
+            });
+            DeviceDrawing drawing(6000, 12);
+            fillOnly(drawing);
+            GDSetClipRect(drawing, &area);
+            draw(drawing, fills[0].points);
+            const auto expected = polygonRuns(straightEdges(fills[0].points), area);
+            return runs == expected ? "" : "other runs";
+        });
+    }
+}
+
 TEST_F(Polygon, OfManyPointsTakesReasonableTime) {
     Random random(testSeed());
     Drawing drawing(64, 64);
