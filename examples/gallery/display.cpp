@@ -89,8 +89,4 @@ bool Display::write(const std::string& path) const {
     return GPIHostWritePng(path.c_str()) != 0;
 }
 
-void Display::waitForClose() const {
-    GPIHostWaitForClose();
-}
-
 } // namespace gallery

@@ -25,9 +25,6 @@ class Display {
     /// Writes what is shown to a PNG file.
     bool write(const std::string& path) const;
 
-    /// Returns when the user closes the window; at once where there is none.
-    void waitForClose() const;
-
   private:
     void transfer();
 

@@ -1,6 +1,7 @@
 // Draws every primitive of the library in every style, a sheet each kind: in a window, or into
 // picture files.
 #include "display.h"
+#include "keys.h"
 #include "page.h"
 #include "sheet.h"
 
@@ -20,8 +21,9 @@ constexpr std::string_view kUsage = R"(usage: gallery [--format FORMAT] [SHEET]
        gallery [--format FORMAT] --png FOLDER
        gallery --list
 
-Shows a sheet, the first one without SHEET, until its window is closed; or writes
-a PNG file of each sheet. FORMAT is 8, 555, 565 or 24 bits a pixel.
+Shows a sheet, the first one without SHEET, until its window is closed: the page and
+arrow keys, Home and End turn to others, Escape closes. Or writes a PNG file of each
+sheet. FORMAT is 8, 555, 565 or 24 bits a pixel.
 )";
 
 struct Options {
@@ -92,6 +94,15 @@ ExitStatus writeAll(gallery::Display& display, const std::filesystem::path& fold
     return kDone;
 }
 
+void showFrom(gallery::Display& display, gallery::Keys& keys, size_t sheet) {
+    gallery::Key key;
+    do {
+        display.show(sheet);
+        key = keys.wait();
+        sheet = gallery::turned(sheet, gallery::sheets().size(), key);
+    } while (key != gallery::Key::Close);
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -105,6 +116,7 @@ int main(int argc, char** argv) {
         return kDone;
     }
     configureHost(*options);
+    gallery::Keys keys; // before there is a window, so that none is missed
     gallery::Display display;
     if (!display.ready()) {
         std::cerr << "gallery: there is no display\n";
@@ -113,7 +125,6 @@ int main(int argc, char** argv) {
     if (!options->folder.empty()) {
         return writeAll(display, options->folder);
     }
-    display.show(options->sheet);
-    display.waitForClose();
+    showFrom(display, keys, options->sheet);
     return kDone;
 }
