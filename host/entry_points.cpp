@@ -14,7 +14,10 @@ int32_t GPIGetFontCount(void) {
 }
 
 void GPIShutdownEvents(void) {
-    // Nobody waits: this platform has no event signal.
+    gpi::guarded(0, [] {
+        gpi::platform().eventSignal.shutDown();
+        return 0;
+    });
 }
 
 void GPITranslateMessage(GMessage* /*message*/) {

@@ -18,6 +18,7 @@ GWord startPlatform(GWord configuration) {
             self.files = std::make_unique<FileStore<GFile>>(settings.files);
             self.dataServer = std::make_unique<FileStore<GDataFile>>(settings.dataServer);
             self.profiles = std::make_unique<Profiles>(settings.profiles, settings.userProfiles);
+            self.modules = std::make_unique<ModuleStore>(settings.modules);
             self.screen = std::make_unique<Screen>(settings);
             self.controller = nc::makeController(settings);
             self.ticks.set(0);
@@ -42,6 +43,7 @@ GWord stopPlatform() {
     const GWord kept = closeDisplay();
     Platform& self = platform();
     self.screen.reset();
+    self.modules.reset();
     self.profiles.reset();
     self.controller.reset();
     self.dataServer.reset();

@@ -4,8 +4,10 @@
 #include "clock/clock.h"
 #include "display/device_drawing.h"
 #include "display/display.h"
+#include "event/signal.h"
 #include "file/store.h"
 #include "memory/heap.h"
+#include "module/module_store.h"
 #include "nc/controller.h"
 #include "profile/profiles.h"
 
@@ -26,10 +28,13 @@ struct Screen {
 struct Platform {
     Heap heap;                      ///< works before the start and after the stop
     TickClock ticks;                ///< likewise
+    Signal eventSignal;             ///< likewise
+    RecursiveLock eventLock;        ///< likewise
     std::unique_ptr<Screen> screen; ///< null unless started, and so are those below
     std::unique_ptr<FileStore<GFile>> files;
     std::unique_ptr<FileStore<GDataFile>> dataServer;
     std::unique_ptr<Profiles> profiles;
+    std::unique_ptr<ModuleStore> modules;
     std::unique_ptr<nc::Controller> controller;
 };
 

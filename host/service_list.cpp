@@ -3,12 +3,15 @@
 #include "clock/services.h"
 #include "data_server/services.h"
 #include "display/services.h"
+#include "event/services.h"
 #include "file/services.h"
 #include "jpeg/services.h"
 #include "lifecycle.h"
 #include "memory/services.h"
+#include "module/services.h"
 #include "nc/services.h"
 #include "profile/services.h"
+#include "search/services.h"
 
 namespace gpi {
 namespace {
@@ -54,6 +57,20 @@ GPIFunction serviceOf(int32_t number) {
         offer<GPIFillPatternNotice>(GPI_SERVICE_FILL_PATTERN_NOTICE, fillPatternNotice),
         offer<GPIPatternRect>(GPI_SERVICE_PATTERN_RECT, patternRect),
         offer<GPIChangeVirtualSurface>(GPI_SERVICE_CHANGE_VIRTUAL_SURFACE, changeVirtualSurface),
+
+        offer<GPIStartEventLock>(GPI_SERVICE_START_EVENT_LOCK, startEventLock),
+        offer<GPIStartEventSignal>(GPI_SERVICE_START_EVENT_SIGNAL, startEventSignal),
+        offer<GPISignalEvent>(GPI_SERVICE_SIGNAL_EVENT, signalEvent),
+        offer<GPIEventTaken>(GPI_SERVICE_EVENT_TAKEN, eventTaken),
+        offer<GPIWaitEvent>(GPI_SERVICE_WAIT_EVENT, waitEvent),
+        offer<GPILockEvents>(GPI_SERVICE_LOCK_EVENTS, lockEvents),
+        offer<GPIUnlockEvents>(GPI_SERVICE_UNLOCK_EVENTS, unlockEvents),
+
+        offer<GPILoadModule>(GPI_SERVICE_LOAD_MODULE, loadModule),
+        offer<GPILoadModuleEx>(GPI_SERVICE_LOAD_MODULE_EX, loadModuleEx),
+        offer<GPIFreeModule>(GPI_SERVICE_FREE_MODULE, freeModule),
+        offer<GPIGetModuleFunction>(GPI_SERVICE_GET_MODULE_FUNCTION, getModuleFunction),
+        offer<GPISearch>(GPI_SERVICE_SEARCH, search),
 
         offer<GPISetSystemTime>(GPI_SERVICE_SET_SYSTEM_TIME, setSystemTime),
         offer<GPIGetSystemTime>(GPI_SERVICE_GET_SYSTEM_TIME, getSystemTime),
