@@ -1,7 +1,7 @@
 #include "data_server/services.h"
 
-#include "file/lock.h"
 #include "file/folder.h"
+#include "file/lock.h"
 #include "platform.h"
 
 #include <fcntl.h>
