@@ -29,16 +29,16 @@ class SpanPainter {
 
     /// Where anything can be seen.
     const GRect& area() const { return area_; }
-    int32_t top() const { return area_.top; }
-    int32_t bottom() const { return area_.bottom; }
+    int32_t top() const { return top_; }
+    int32_t bottom() const { return bottom_; }
 
     /// A run from column `left` to `right`, both included; nothing when they stand the other way.
     void add(int32_t left, int32_t right, int32_t y) {
-        if (y < area_.top || y > area_.bottom) {
+        if (y < top_ || y > bottom_) {
             return;
         }
-        left = left < area_.left ? area_.left : left;
-        right = right > area_.right ? area_.right : right;
+        left = left < left_ ? left_ : left;
+        right = right > right_ ? right_ : right;
         if (left > right) {
             return;
         }
@@ -57,7 +57,12 @@ class SpanPainter {
     const Canvas& canvas_;
     const Paint paint_;
     const int32_t mode_;
-    GRect area_; ///< nowhere when the paint shows nothing
+    const GRect area_; ///< nowhere when the paint shows nothing
+    // Its edges in a type that no store of a span's can change, so that they stay in registers.
+    const int32_t left_ = area_.left;
+    const int32_t top_ = area_.top;
+    const int32_t right_ = area_.right;
+    const int32_t bottom_ = area_.bottom;
     int32_t count_ = 0;
     kernel::Span spans_[kBatch];
 };
