@@ -45,3 +45,12 @@ int32_t GPIHostWritePng(const char* path) {
         return possible && gpi::writePng(gpi::screen()->display.frame(), path) ? 1 : 0;
     });
 }
+
+int32_t GPIHostPostMessage(const GMessage* message) {
+    return gpi::guarded(0, [&] {
+        if (message != nullptr) {
+            gpi::platform().messages.post(*message);
+        }
+        return message != nullptr ? 1 : 0;
+    });
+}

@@ -19,6 +19,8 @@ GWord startPlatform(GWord configuration) {
             self.dataServer = std::make_unique<FileStore<GDataFile>>(settings.dataServer);
             self.profiles = std::make_unique<Profiles>(settings.profiles, settings.userProfiles);
             self.modules = std::make_unique<ModuleStore>(settings.modules);
+            self.programs = std::make_unique<ProgramStore>(settings.programs, settings.files);
+            self.messages.clear();
             self.screen = std::make_unique<Screen>(settings);
             self.controller = nc::makeController(settings);
             self.ticks.set(0);
@@ -43,6 +45,7 @@ GWord stopPlatform() {
     const GWord kept = closeDisplay();
     Platform& self = platform();
     self.screen.reset();
+    self.programs.reset();
     self.modules.reset();
     self.profiles.reset();
     self.controller.reset();

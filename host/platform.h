@@ -1,12 +1,14 @@
 // All that the platform keeps for the process.
 #pragma once
 
+#include "app/program_store.h"
 #include "clock/clock.h"
 #include "display/device_drawing.h"
 #include "display/display.h"
 #include "event/signal.h"
 #include "file/store.h"
 #include "memory/heap.h"
+#include "message/message_queue.h"
 #include "module/module_store.h"
 #include "nc/controller.h"
 #include "profile/profiles.h"
@@ -30,11 +32,13 @@ struct Platform {
     TickClock ticks;                ///< likewise
     Signal eventSignal;             ///< likewise
     RecursiveLock eventLock;        ///< likewise
+    MessageQueue messages;          ///< likewise
     std::unique_ptr<Screen> screen; ///< null unless started, and so are those below
     std::unique_ptr<FileStore<GFile>> files;
     std::unique_ptr<FileStore<GDataFile>> dataServer;
     std::unique_ptr<Profiles> profiles;
     std::unique_ptr<ModuleStore> modules;
+    std::unique_ptr<ProgramStore> programs;
     std::unique_ptr<nc::Controller> controller;
 };
 

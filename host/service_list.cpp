@@ -1,5 +1,6 @@
 #include "service_list.h"
 
+#include "app/services.h"
 #include "clock/services.h"
 #include "data_server/services.h"
 #include "display/services.h"
@@ -8,6 +9,7 @@
 #include "jpeg/services.h"
 #include "lifecycle.h"
 #include "memory/services.h"
+#include "message/services.h"
 #include "module/services.h"
 #include "nc/services.h"
 #include "profile/services.h"
@@ -65,6 +67,10 @@ GPIFunction serviceOf(int32_t number) {
         offer<GPIWaitEvent>(GPI_SERVICE_WAIT_EVENT, waitEvent),
         offer<GPILockEvents>(GPI_SERVICE_LOCK_EVENTS, lockEvents),
         offer<GPIUnlockEvents>(GPI_SERVICE_UNLOCK_EVENTS, unlockEvents),
+
+        offer<GPINextMessage>(GPI_SERVICE_NEXT_MESSAGE, nextMessage),
+        offer<GPIExecute>(GPI_SERVICE_EXECUTE, executeProgram),
+        offer<GPIExit>(GPI_SERVICE_EXIT, exitProgram),
 
         offer<GPILoadModule>(GPI_SERVICE_LOAD_MODULE, loadModule),
         offer<GPILoadModuleEx>(GPI_SERVICE_LOAD_MODULE_EX, loadModuleEx),

@@ -105,6 +105,7 @@ Settings readSettings(const SettingSource& source) {
     reader.text("QUARLO_PNG", settings.png);
     reader.text("QUARLO_FILES", settings.files);
     reader.text("QUARLO_DATA_SERVER", settings.dataServer);
+    reader.text("QUARLO_PROGRAMS", settings.programs);
     reader.text("QUARLO_MODULES", settings.modules);
     reader.text("QUARLO_PROFILES", settings.profiles);
     settings.userProfiles = userFolder("profiles").string();

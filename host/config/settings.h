@@ -34,6 +34,7 @@ struct Settings {
     std::string png = "quarlo.png";               ///< QUARLO_PNG: path of the picture file
     std::string files = ".";                ///< QUARLO_FILES: folder that holds the program's files
     std::string dataServer = "data";        ///< QUARLO_DATA_SERVER: folder of the data server
+    std::string programs = "programs";      ///< QUARLO_PROGRAMS: folder of programs
     std::string modules = "modules";        ///< QUARLO_MODULES: folder of modules
     std::string profiles = "profiles";      ///< QUARLO_PROFILES: folder of the maker's
     std::string userProfiles;               ///< QUARLO_USER_PROFILES: folder of the user's

@@ -55,6 +55,15 @@ GPI_API int32_t GPIHostWaitForClose(void);
  */
 GPI_API int32_t GPIHostWritePng(const char* path);
 
+/**
+ * Posts a message to the program's main loop, from any thread: input of a device that the platform
+ * does not know, or a program's own.
+ *
+ * @param message copied
+ * @return 1; 0 for null
+ */
+GPI_API int32_t GPIHostPostMessage(const GMessage* message);
+
 QUARLO_END
 
 #endif
