@@ -21,6 +21,7 @@ GWord startPlatform(GWord configuration) {
             self.modules = std::make_unique<ModuleStore>(settings.modules);
             self.programs = std::make_unique<ProgramStore>(settings.programs, settings.files);
             self.messages.clear();
+            self.codePage = codePageOf(settings.codePage);
             self.screen = std::make_unique<Screen>(settings);
             self.controller = nc::makeController(settings);
             self.ticks.set(0);

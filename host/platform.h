@@ -12,6 +12,7 @@
 #include "module/module_store.h"
 #include "nc/controller.h"
 #include "profile/profiles.h"
+#include "text/code_page.h"
 
 #include <quarlo/data_server.h>
 
@@ -28,12 +29,13 @@ struct Screen {
 };
 
 struct Platform {
-    Heap heap;                      ///< works before the start and after the stop
-    TickClock ticks;                ///< likewise
-    Signal eventSignal;             ///< likewise
-    RecursiveLock eventLock;        ///< likewise
-    MessageQueue messages;          ///< likewise
-    std::unique_ptr<Screen> screen; ///< null unless started, and so are those below
+    Heap heap;                         ///< works before the start and after the stop
+    TickClock ticks;                   ///< likewise
+    Signal eventSignal;                ///< likewise
+    RecursiveLock eventLock;           ///< likewise
+    MessageQueue messages;             ///< likewise
+    CodePage codePage = codePageOf(0); ///< likewise
+    std::unique_ptr<Screen> screen;    ///< null unless started, and so are those below
     std::unique_ptr<FileStore<GFile>> files;
     std::unique_ptr<FileStore<GDataFile>> dataServer;
     std::unique_ptr<Profiles> profiles;

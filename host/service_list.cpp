@@ -14,6 +14,7 @@
 #include "nc/services.h"
 #include "profile/services.h"
 #include "search/services.h"
+#include "text/services.h"
 
 namespace gpi {
 namespace {
@@ -59,6 +60,13 @@ GPIFunction serviceOf(int32_t number) {
         offer<GPIFillPatternNotice>(GPI_SERVICE_FILL_PATTERN_NOTICE, fillPatternNotice),
         offer<GPIPatternRect>(GPI_SERVICE_PATTERN_RECT, patternRect),
         offer<GPIChangeVirtualSurface>(GPI_SERVICE_CHANGE_VIRTUAL_SURFACE, changeVirtualSurface),
+
+        offer<GPIStringLength>(GPI_SERVICE_STRING_LENGTH, stringLength),
+        offer<GPIPreviousChar>(GPI_SERVICE_PREVIOUS_CHAR, previousChar),
+        offer<GPINextChar>(GPI_SERVICE_NEXT_CHAR, nextChar),
+        offer<GPIUnicodeToMultiByte>(GPI_SERVICE_UNICODE_TO_MULTI_BYTE, unicodeToMultiByte),
+        offer<GPIMultiByteToUnicode>(GPI_SERVICE_MULTI_BYTE_TO_UNICODE, multiByteToUnicode),
+        offer<GPIIsLeadByte>(GPI_SERVICE_IS_LEAD_BYTE, isLeadByteOf),
 
         offer<GPIStartEventLock>(GPI_SERVICE_START_EVENT_LOCK, startEventLock),
         offer<GPIStartEventSignal>(GPI_SERVICE_START_EVENT_SIGNAL, startEventSignal),

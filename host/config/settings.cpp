@@ -114,6 +114,12 @@ Settings readSettings(const SettingSource& source) {
                                {{"sim", ControlKind::Sim}, {"linuxcnc", ControlKind::LinuxCnc}},
                                settings.control);
     reader.text("QUARLO_NC_HELPER", settings.controlHelper);
+    reader.choice<int32_t>("QUARLO_CODE_PAGE",
+                           {{"UTF-8", G_CODE_PAGE_UTF8},
+                            {"CP932", G_CODE_PAGE_CP932},
+                            {"GBK", G_CODE_PAGE_GBK},
+                            {"CP1252", G_CODE_PAGE_CP1252}},
+                           settings.codePage);
     reader.number("QUARLO_MEMORY_LIMIT", 0, std::numeric_limits<int32_t>::max(),
                   settings.memoryLimit);
     reader.reportUnknownNames();

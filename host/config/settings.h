@@ -4,6 +4,8 @@
 #include "config/source.h"
 #include "display/pixel_format.h"
 
+#include <quarlo/convert.h>
+
 #include <cstdint>
 #include <string>
 
@@ -40,6 +42,7 @@ struct Settings {
     std::string userProfiles;               ///< QUARLO_USER_PROFILES: folder of the user's
     ControlKind control = ControlKind::Sim; ///< QUARLO_NC: sim, linuxcnc
     std::string controlHelper;              ///< QUARLO_NC_HELPER: program that speaks to LinuxCNC
+    int32_t codePage = G_CODE_PAGE_UTF8;    ///< QUARLO_CODE_PAGE: UTF-8, CP932, GBK, CP1252
     int32_t memoryLimit = 0; ///< QUARLO_MEMORY_LIMIT: bytes of a memory space, 0 for no limit
 };
 
