@@ -1,4 +1,5 @@
 // The functions that the shared library exports by name.
+#include "font/services.h"
 #include "guard.h"
 #include "platform.h"
 #include "service_list.h"
@@ -10,7 +11,7 @@ GPIFunction GPIGetService(int32_t number) {
 }
 
 int32_t GPIGetFontCount(void) {
-    return 0;
+    return gpi::fontCount();
 }
 
 void GPIShutdownEvents(void) {

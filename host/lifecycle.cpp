@@ -21,7 +21,9 @@ GWord startPlatform(GWord configuration) {
             self.modules = std::make_unique<ModuleStore>(settings.modules);
             self.programs = std::make_unique<ProgramStore>(settings.programs, settings.files);
             self.messages.clear();
+            self.wholeStrings = settings.wholeStrings;
             self.codePage = codePageOf(settings.codePage);
+            self.fonts = std::make_unique<FontStore>(settings);
             self.screen = std::make_unique<Screen>(settings);
             self.controller = nc::makeController(settings);
             self.ticks.set(0);
@@ -52,6 +54,7 @@ GWord stopPlatform() {
     self.controller.reset();
     self.dataServer.reset();
     self.files.reset();
+    self.fonts.reset();
     return kept;
 }
 

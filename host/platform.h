@@ -7,6 +7,7 @@
 #include "display/display.h"
 #include "event/signal.h"
 #include "file/store.h"
+#include "font/font_store.h"
 #include "memory/heap.h"
 #include "message/message_queue.h"
 #include "module/module_store.h"
@@ -35,7 +36,9 @@ struct Platform {
     RecursiveLock eventLock;           ///< likewise
     MessageQueue messages;             ///< likewise
     CodePage codePage = codePageOf(0); ///< likewise
+    bool wholeStrings = true;          ///< likewise: services 44 and 75
     std::unique_ptr<Screen> screen;    ///< null unless started, and so are those below
+    std::unique_ptr<FontStore> fonts;
     std::unique_ptr<FileStore<GFile>> files;
     std::unique_ptr<FileStore<GDataFile>> dataServer;
     std::unique_ptr<Profiles> profiles;

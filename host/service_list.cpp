@@ -6,6 +6,7 @@
 #include "display/services.h"
 #include "event/services.h"
 #include "file/services.h"
+#include "font/services.h"
 #include "jpeg/services.h"
 #include "lifecycle.h"
 #include "memory/services.h"
@@ -15,6 +16,7 @@
 #include "profile/services.h"
 #include "search/services.h"
 #include "text/services.h"
+#include "text/string_drawing.h"
 
 namespace gpi {
 namespace {
@@ -61,6 +63,20 @@ GPIFunction serviceOf(int32_t number) {
         offer<GPIPatternRect>(GPI_SERVICE_PATTERN_RECT, patternRect),
         offer<GPIChangeVirtualSurface>(GPI_SERVICE_CHANGE_VIRTUAL_SURFACE, changeVirtualSurface),
 
+        offer<GPILoadFont>(GPI_SERVICE_LOAD_FONT, loadFont),
+        offer<GPISetFontSize>(GPI_SERVICE_SET_FONT_SIZE, setFontSize),
+        offer<GPIGetFontSize>(GPI_SERVICE_GET_FONT_SIZE, getFontSize),
+        offer<GPISetFontAttribute>(GPI_SERVICE_SET_FONT_ATTRIBUTE, setFontAttribute),
+        offer<GPIGetFontAttribute>(GPI_SERVICE_GET_FONT_ATTRIBUTE, getFontAttribute),
+        offer<GPISetFontUserAttribute>(GPI_SERVICE_SET_FONT_USER_ATTRIBUTE, setFontUserAttribute),
+        offer<GPIGetFontUserAttribute>(GPI_SERVICE_GET_FONT_USER_ATTRIBUTE, getFontUserAttribute),
+        offer<GPIGlyph>(GPI_SERVICE_GLYPH, findGlyph),
+        offer<GPIReleaseFont>(GPI_SERVICE_RELEASE_FONT, releaseFont),
+        offer<GPIGetFontInformation>(GPI_SERVICE_GET_FONT_INFORMATION, getFontInformation),
+        offer<GPISetGBFontFlag>(GPI_SERVICE_SET_GB_FONT_FLAG, setGbFontFlag),
+
+        offer<GPIDrawString>(GPI_SERVICE_DRAW_STRING, drawString),
+        offer<GPIDrawCaptionLine>(GPI_SERVICE_DRAW_CAPTION_LINE, drawCaptionLine),
         offer<GPIStringLength>(GPI_SERVICE_STRING_LENGTH, stringLength),
         offer<GPIPreviousChar>(GPI_SERVICE_PREVIOUS_CHAR, previousChar),
         offer<GPINextChar>(GPI_SERVICE_NEXT_CHAR, nextChar),
@@ -145,6 +161,11 @@ GPIFunction serviceOf(int32_t number) {
         offer<GPISetNCSystemValue>(GPI_SERVICE_SET_NC_SYSTEM_VALUE, setNcSystemValue),
         offer<GPIGetNCSystemValue>(GPI_SERVICE_GET_NC_SYSTEM_VALUE, getNcSystemValue),
     };
+    const bool wholeString =
+        number == GPI_SERVICE_DRAW_STRING || number == GPI_SERVICE_DRAW_CAPTION_LINE;
+    if (wholeString && !drawsWholeStrings()) {
+        return nullptr;
+    }
     for (const Entry& entry : services) {
         if (entry.number == number) {
             return entry.function;

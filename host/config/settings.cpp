@@ -120,6 +120,12 @@ Settings readSettings(const SettingSource& source) {
                             {"GBK", G_CODE_PAGE_GBK},
                             {"CP1252", G_CODE_PAGE_CP1252}},
                            settings.codePage);
+    reader.text("QUARLO_PANEL_FONT", settings.panelFont);
+    reader.text("QUARLO_JAPANESE_FONT", settings.japaneseFont);
+    reader.text("QUARLO_CHINESE_FONT", settings.chineseFont);
+    reader.number("QUARLO_GLYPH_CACHE", 1, 1 << 20, settings.glyphCache);
+    reader.choice<bool>(kWholeStringsSetting, {{"yes", true}, {"no", false}},
+                        settings.wholeStrings);
     reader.number("QUARLO_MEMORY_LIMIT", 0, std::numeric_limits<int32_t>::max(),
                   settings.memoryLimit);
     reader.reportUnknownNames();

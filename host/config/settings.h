@@ -26,6 +26,9 @@ enum class ControlKind {
 };
 
 /// The settings with their defaults. The comment behind each names its variable.
+/// Read also by a platform that is not started.
+inline constexpr const char* kWholeStringsSetting = "QUARLO_WHOLE_STRINGS";
+
 struct Settings {
     DisplayKind display = DisplayKind::Automatic; ///< QUARLO_DISPLAY: sdl, memory, png
     int width = 800;                              ///< QUARLO_WIDTH: pixels, 1 to 2560
@@ -43,6 +46,11 @@ struct Settings {
     ControlKind control = ControlKind::Sim; ///< QUARLO_NC: sim, linuxcnc
     std::string controlHelper;              ///< QUARLO_NC_HELPER: program that speaks to LinuxCNC
     int32_t codePage = G_CODE_PAGE_UTF8;    ///< QUARLO_CODE_PAGE: UTF-8, CP932, GBK, CP1252
+    std::string panelFont;                  ///< QUARLO_PANEL_FONT: file of the panel face
+    std::string japaneseFont;               ///< QUARLO_JAPANESE_FONT: file of ideographs
+    std::string chineseFont;                ///< QUARLO_CHINESE_FONT: file of ideographs
+    int32_t glyphCache = 2048;              ///< QUARLO_GLYPH_CACHE: KiB
+    bool wholeStrings = true;               ///< QUARLO_WHOLE_STRINGS: yes, no
     int32_t memoryLimit = 0; ///< QUARLO_MEMORY_LIMIT: bytes of a memory space, 0 for no limit
 };
 

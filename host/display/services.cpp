@@ -1,5 +1,6 @@
 #include "display/services.h"
 
+#include "font/cell.h"
 #include "guard.h"
 #include "platform.h"
 
@@ -24,6 +25,13 @@ int32_t drawing(const Action& action) {
 Page* targetOf(Display& display, const GDrawHandle* handle) {
     Page* const page = handle != nullptr ? display.pageOf(handle->target) : nullptr;
     return page != nullptr ? page : display.page(0);
+}
+
+/// Bits a pixel of the glyphs that a handle's font gives; 4 for a font of another platform's.
+int glyphDepth(const GDrawHandle* handle) {
+    const FontStore* const fonts = platform().fonts.get();
+    Font* const font = fonts != nullptr && handle != nullptr ? fonts->find(handle->font) : nullptr;
+    return font != nullptr ? font->style().bits : 4;
 }
 
 } // namespace
@@ -55,10 +63,12 @@ int32_t nextPixel() {
     return drawing([](DeviceDrawing& draw) { return draw.nextPixel(); });
 }
 
-int32_t coveragePixel(GDrawHandle* /*handle*/, GVram* surface, int16_t x, int16_t y, uint32_t pixel,
+int32_t coveragePixel(GDrawHandle* handle, GVram* surface, int16_t x, int16_t y, uint32_t pixel,
                       int32_t mode, int32_t level) {
-    return drawing(
-        [&](DeviceDrawing& draw) { return draw.coveragePixel(surface, x, y, pixel, mode, level); });
+    return drawing([&](DeviceDrawing& draw) {
+        const int32_t share = fifteenths(level, glyphDepth(handle));
+        return draw.coveragePixel(surface, x, y, pixel, mode, share);
+    });
 }
 
 int32_t fillRect(GDrawHandle* /*handle*/, GVram* surface, const GRect* rect, uint32_t pixel,

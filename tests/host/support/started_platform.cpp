@@ -8,7 +8,9 @@ Environment::Values settings(const Environment::Values& changes) {
                                   {"QUARLO_DISPLAY", "memory"}};
     for (const char* name :
          {"QUARLO_WIDTH", "QUARLO_HEIGHT", "QUARLO_FORMAT", "QUARLO_SCALE", "QUARLO_TITLE",
-          "QUARLO_NC", "QUARLO_NC_HELPER", "QUARLO_PNG", "QUARLO_MEMORY_LIMIT"}) {
+          "QUARLO_NC", "QUARLO_NC_HELPER", "QUARLO_PNG", "QUARLO_MEMORY_LIMIT", "QUARLO_PANEL_FONT",
+          "QUARLO_JAPANESE_FONT", "QUARLO_CHINESE_FONT", "QUARLO_GLYPH_CACHE",
+          "QUARLO_WHOLE_STRINGS", "QUARLO_CODE_PAGE"}) {
         values[name] = std::nullopt;
     }
     for (const auto& [name, value] : changes) {
