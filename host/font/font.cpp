@@ -88,8 +88,8 @@ SizedFace& Font::sized(Source source) {
     if (sized_[source] == nullptr) {
         Face& face = *faces_[source];
         const bool fixed = &face != faces_[kOwn] || face.isFixed();
-        sized_[source] = std::make_unique<SizedFace>(face, style_.size,
-                                                     fixed ? Pitch::Fixed : Pitch::Proportional);
+        sized_[source] = std::make_unique<SizedFace>(
+            face, style_.size, fixed ? Pitch::Fixed : Pitch::Proportional, style_.bits > 1);
     }
     return *sized_[source];
 }
@@ -108,7 +108,7 @@ std::optional<Cell> Font::render(uint32_t character, bool chineseFirst) {
         if (!may || faces_[source] == nullptr || faces_[source]->glyphOf(character) == 0) {
             continue;
         }
-        auto cell = sized(source).render(character, style_.bits > 1);
+        auto cell = sized(source).render(character);
         if (cell) {
             if (style_.bold) {
                 cell->embolden();

@@ -2,8 +2,6 @@
 
 #include "font/script.h"
 
-#include FT_SIZES_H
-
 #include <algorithm>
 #include <climits>
 #include <cstdlib>
@@ -56,20 +54,23 @@ void copyInto(Cell& cell, const FT_Bitmap& bitmap, int left, int top) {
 
 } // namespace
 
-SizedFace::SizedFace(const Face& face, const CellSize& size, Pitch pitch)
-    : face_(face), size_(size), pitch_(pitch) {
-    if (FT_New_Size(face_.get(), &ftSize_) != 0) {
-        throw std::bad_alloc();
-    }
-    FT_Activate_Size(ftSize_);
+SizedFace::SizedFace(const Face& face, const CellSize& size, Pitch pitch, bool grey)
+    : face_(face), size_(size), pitch_(pitch), grey_(grey), whole_(newSize()) {
     bitmaps_ = selectBitmaps();
-    if (!bitmaps_) {
-        scale();
+    if (!bitmaps_ && face_.hasIdeographs()) {
+        scaleToIdeographs();
+    } else if (!bitmaps_) {
+        scaleToLetters();
     }
 }
 
-SizedFace::~SizedFace() {
-    FT_Done_Size(ftSize_);
+SizedFace::Size SizedFace::newSize() const {
+    FT_Size size = nullptr;
+    if (FT_New_Size(face_.get(), &size) != 0) {
+        throw std::bad_alloc();
+    }
+    FT_Activate_Size(size);
+    return Size(size);
 }
 
 bool SizedFace::selectBitmaps() {
@@ -94,18 +95,18 @@ bool SizedFace::selectBitmaps() {
     return true;
 }
 
-void SizedFace::scale() {
-    if (face_.hasIdeographs()) {
-        scaleToIdeographs();
-    } else {
-        scaleToLetters();
-    }
+void SizedFace::setEm(FT_F26Dot6 width, FT_F26Dot6 height) {
+    FT_Set_Char_Size(face_.get(), width, height, 72, 72);
+    // Hinting rounds heights up: a little less lets accents and descenders stay in the cell.
+    letters_ = newSize();
+    FT_Set_Char_Size(face_.get(), width, height * 15 / 16, 72, 72);
 }
 
 void SizedFace::scaleToIdeographs() {
-    // Ideographs fill their em square, of which an eighth lies below the base line.
-    FT_Set_Char_Size(face_.get(), size_.wide * 64, size_.height * 64, 72, 72);
-    ascent_ = (size_.height * 7 + 4) / 8;
+    // Ideographs fill their em square, of which about a seventh lies below the base line. One-bit
+    // letters are hinted to whole rows, of which descenders get one more.
+    setEm(size_.wide * 64, size_.height * 64);
+    ascent_ = grey_ ? (size_.height * 6 + 3) / 7 : (size_.height * 5 + 3) / 6;
 }
 
 void SizedFace::scaleToLetters() {
@@ -117,7 +118,7 @@ void SizedFace::scaleToLetters() {
     if (pitch_ == Pitch::Fixed && FT_Load_Glyph(face, face_.glyphOf('0'), FT_LOAD_NO_SCALE) == 0) {
         width = size_.narrow * 64 * em / std::max<FT_Long>(face->glyph->metrics.horiAdvance, 1);
     }
-    FT_Set_Char_Size(face, width, height, 72, 72);
+    setEm(width, height);
     ascent_ = static_cast<int>((size_.height * FT_Long{face->ascender} + extent / 2) / extent);
 }
 
@@ -137,14 +138,14 @@ int SizedFace::cellWidth() const {
     return std::max({advance(), ink, 1});
 }
 
-std::optional<Cell> SizedFace::render(uint32_t character, bool grey) const {
+std::optional<Cell> SizedFace::render(uint32_t character) const {
     const FT_UInt glyph = face_.glyphOf(character);
     if (glyph == 0) {
         return std::nullopt;
     }
     const FT_Face face = face_.get();
-    FT_Activate_Size(ftSize_);
-    if (FT_Load_Glyph(face, glyph, FT_LOAD_RENDER | renderingOf(character, grey)) != 0) {
+    const FT_Int32 flags = prepare(!isIdeographic(character));
+    if (FT_Load_Glyph(face, glyph, FT_LOAD_RENDER | flags) != 0) {
         return std::nullopt;
     }
     const FT_GlyphSlot slot = face->glyph;
@@ -155,17 +156,19 @@ std::optional<Cell> SizedFace::render(uint32_t character, bool grey) const {
     return cell;
 }
 
-FT_Int32 SizedFace::renderingOf(uint32_t character, bool grey) const {
-    if (bitmaps_) {
-        return grey ? FT_LOAD_TARGET_NORMAL : FT_LOAD_TARGET_MONO;
+/// Activates the size that a character is rendered at. How to load it.
+FT_Int32 SizedFace::prepare(bool letter) const {
+    FT_Activate_Size((letter && !bitmaps_ ? letters_ : whole_).get());
+    FT_Int32 flags = grey_ ? FT_LOAD_TARGET_NORMAL : FT_LOAD_TARGET_MONO;
+    if (!bitmaps_) {
+        flags |= FT_LOAD_NO_BITMAP;
     }
-    if (grey) {
-        return FT_LOAD_NO_BITMAP | FT_LOAD_TARGET_NORMAL;
+    if (letter && !grey_) {
+        // The automatic hinter keeps the stems of letters apart, where the faces' own instructions
+        // for small cells let them run together. Ideographs it makes too heavy.
+        flags |= FT_LOAD_FORCE_AUTOHINT;
     }
-    // The automatic hinter keeps the stems of letters apart, where the faces' own instructions for
-    // small cells let them run together; ideographs it makes too heavy.
-    return FT_LOAD_NO_BITMAP | FT_LOAD_TARGET_MONO |
-           (isIdeographic(character) ? FT_LOAD_DEFAULT : FT_LOAD_FORCE_AUTOHINT);
+    return flags;
 }
 
 } // namespace gpi

@@ -6,7 +6,9 @@
 
 #include <ft2build.h>
 #include FT_FREETYPE_H
+#include FT_SIZES_H
 
+#include <memory>
 #include <optional>
 
 namespace gpi {
@@ -21,16 +23,14 @@ enum class Pitch {
 /// until letters fill the narrow cell, or ideographs the wide one.
 class SizedFace {
   public:
-    /// The face must outlive it.
-    SizedFace(const Face& face, const CellSize& size, Pitch pitch);
-    ~SizedFace();
+    /// @param face must outlive it
+    /// @param grey whether pixels shall have levels; bitmaps have none whatever is asked
+    SizedFace(const Face& face, const CellSize& size, Pitch pitch, bool grey);
     SizedFace(const SizedFace&) = delete;
     SizedFace& operator=(const SizedFace&) = delete;
 
     /// A character's cell; nothing when the face lacks it.
-    ///
-    /// @param grey whether pixels shall have levels; bitmaps have none whatever is asked
-    std::optional<Cell> render(uint32_t character, bool grey) const;
+    std::optional<Cell> render(uint32_t character) const;
 
     /// Rows above the base line.
     int ascent() const { return ascent_; }
@@ -39,18 +39,26 @@ class SizedFace {
     bool hasBitmaps() const { return bitmaps_; }
 
   private:
+    struct DoneSize {
+        void operator()(FT_Size size) const { FT_Done_Size(size); }
+    };
+    using Size = std::unique_ptr<FT_SizeRec_, DoneSize>;
+
+    Size newSize() const;
     bool selectBitmaps();
-    void scale();
     void scaleToIdeographs();
     void scaleToLetters();
+    void setEm(FT_F26Dot6 width, FT_F26Dot6 height);
     int advance() const;
     int cellWidth() const;
-    FT_Int32 renderingOf(uint32_t character, bool grey) const;
+    FT_Int32 prepare(bool letter) const;
 
     const Face& face_;
     CellSize size_;
     Pitch pitch_;
-    FT_Size ftSize_ = nullptr;
+    bool grey_;
+    Size whole_;   ///< for ideographs and bitmaps
+    Size letters_; ///< null with bitmaps
     int ascent_ = 0;
     bool bitmaps_ = false;
 };

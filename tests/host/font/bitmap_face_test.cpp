@@ -39,13 +39,14 @@ TEST_F(BitmapFace, GivesItsOwnPixelsAtAnyDepth) {
     ASSERT_NE(face, nullptr);
     FT_Face file = nullptr;
     ASSERT_EQ(FT_New_Face(library_, kUnifont, 0, &file), 0);
-    const gpi::SizedFace sized(*face, {8, 16, 16}, gpi::Pitch::Fixed);
-    EXPECT_TRUE(sized.hasBitmaps());
-    EXPECT_EQ(sized.ascent(), 14);
+    const gpi::SizedFace oneBit(*face, {8, 16, 16}, gpi::Pitch::Fixed, false);
+    const gpi::SizedFace grey(*face, {8, 16, 16}, gpi::Pitch::Fixed, true);
+    EXPECT_TRUE(oneBit.hasBitmaps());
+    EXPECT_EQ(oneBit.ascent(), 14);
     for (const uint32_t character : {U'A', U'g', U'Ж', U'ア', U'軸', U'轴', U'ｱ'}) {
         ASSERT_EQ(FT_Load_Char(file, character, FT_LOAD_RENDER | FT_LOAD_TARGET_MONO), 0);
-        for (const bool grey : {false, true}) {
-            const auto cell = sized.render(character, grey);
+        for (const gpi::SizedFace* sized : {&oneBit, &grey}) {
+            const auto cell = sized->render(character);
             ASSERT_TRUE(cell);
             EXPECT_EQ(cell->width(), file->glyph->advance.x / 64);
             for (int y = 0; y < 16; ++y) {
@@ -62,12 +63,12 @@ TEST_F(BitmapFace, GivesItsOwnPixelsAtAnyDepth) {
 TEST_F(BitmapFace, IsTakenWhereAnOutlineHasBitmapsOfTheSize) {
     const auto face = gpi::Face::open(library_, {kTerminus, 0});
     ASSERT_NE(face, nullptr);
-    const gpi::SizedFace exact(*face, {8, 16, 16}, gpi::Pitch::Fixed);
+    const gpi::SizedFace exact(*face, {8, 16, 16}, gpi::Pitch::Fixed, false);
     EXPECT_TRUE(exact.hasBitmaps());
-    EXPECT_FALSE(exact.render(U'軸', false));
-    const gpi::SizedFace other(*face, {8, 16, 17}, gpi::Pitch::Fixed);
+    EXPECT_FALSE(exact.render(U'軸'));
+    const gpi::SizedFace other(*face, {8, 16, 17}, gpi::Pitch::Fixed, true);
     EXPECT_FALSE(other.hasBitmaps());
-    const auto levels = other.render(U'S', true);
+    const auto levels = other.render(U'S');
     ASSERT_TRUE(levels);
     bool between = false;
     for (int at = 0; at < 8 * 17; ++at) {
@@ -80,8 +81,8 @@ TEST_F(BitmapFace, IsTakenWhereAnOutlineHasBitmapsOfTheSize) {
 TEST_F(BitmapFace, OfAnotherSizeIsCutToTheCell) {
     const auto face = gpi::Face::open(library_, {kUnifont, 0});
     ASSERT_NE(face, nullptr);
-    const gpi::SizedFace small(*face, {3, 6, 5}, gpi::Pitch::Fixed);
-    const auto cell = small.render(U'軸', false);
+    const gpi::SizedFace small(*face, {3, 6, 5}, gpi::Pitch::Fixed, false);
+    const auto cell = small.render(U'軸');
     ASSERT_TRUE(cell);
     EXPECT_EQ(cell->width(), 6);
     EXPECT_EQ(cell->height(), 5);

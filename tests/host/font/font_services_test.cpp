@@ -342,7 +342,7 @@ TEST(Fonts, TellOfThemselves) {
     EXPECT_EQ(told.flags, G_FONT_FIXED | G_FONT_IDEOGRAPHS);
     EXPECT_EQ(told.width, 8);
     EXPECT_EQ(told.height, 16);
-    EXPECT_EQ(told.ascent, 14);
+    EXPECT_EQ(told.ascent, 13);
     EXPECT_EQ(told.bitsPerPixel, 1);
     EXPECT_EQ(told.cachedGlyphs, 0U);
     EXPECT_EQ(information(font, nullptr), 0);
