@@ -17,6 +17,7 @@ int32_t GPIGetFontCount(void) {
 void GPIShutdownEvents(void) {
     gpi::guarded(0, [] {
         gpi::platform().eventSignal.shutDown();
+        gpi::platform().eventLock.shutDown();
         return 0;
     });
 }
@@ -40,18 +41,14 @@ int32_t GPIHostWaitForClose(void) {
     });
 }
 
+int32_t GPIHostHasWindow(void) {
+    return gpi::guarded(
+        0, [] { return gpi::screen() != nullptr && gpi::screen()->display.hasWindow() ? 1 : 0; });
+}
+
 int32_t GPIHostWritePng(const char* path) {
     return gpi::guarded(0, [&] {
         const bool possible = path != nullptr && gpi::screen() != nullptr;
         return possible && gpi::writePng(gpi::screen()->display.frame(), path) ? 1 : 0;
-    });
-}
-
-int32_t GPIHostPostMessage(const GMessage* message) {
-    return gpi::guarded(0, [&] {
-        if (message != nullptr) {
-            gpi::platform().messages.post(*message);
-        }
-        return message != nullptr ? 1 : 0;
     });
 }

@@ -21,10 +21,11 @@ GWord startPlatform(GWord configuration) {
             self.modules = std::make_unique<ModuleStore>(settings.modules);
             self.programs = std::make_unique<ProgramStore>(settings.programs, settings.files);
             self.messages.clear();
+            self.input.reset();
             self.wholeStrings = settings.wholeStrings;
             self.codePage = codePageOf(settings.codePage);
             self.fonts = std::make_unique<FontStore>(settings);
-            self.screen = std::make_unique<Screen>(settings);
+            self.screen = std::make_unique<Screen>(settings, self.input);
             self.controller = nc::makeController(settings);
             self.ticks.set(0);
         }

@@ -8,7 +8,9 @@
 #include "event/signal.h"
 #include "file/store.h"
 #include "font/font_store.h"
+#include "input/input.h"
 #include "memory/heap.h"
+#include "message/message_handler.h"
 #include "message/message_queue.h"
 #include "module/module_store.h"
 #include "nc/controller.h"
@@ -23,21 +25,23 @@ namespace gpi {
 
 /// The display of a started platform and the state of drawing on it.
 struct Screen {
-    explicit Screen(const Settings& settings) : display(settings), drawing(display) {}
+    Screen(const Settings& settings, Input& input) : display(settings, input), drawing(display) {}
 
     Display display;
     DeviceDrawing drawing;
 };
 
 struct Platform {
-    Heap heap;                         ///< works before the start and after the stop
-    TickClock ticks;                   ///< likewise
-    Signal eventSignal;                ///< likewise
-    RecursiveLock eventLock;           ///< likewise
-    MessageQueue messages;             ///< likewise
-    CodePage codePage = codePageOf(0); ///< likewise
-    bool wholeStrings = true;          ///< likewise: services 44 and 75
-    std::unique_ptr<Screen> screen;    ///< null unless started, and so are those below
+    Heap heap;                          ///< works before the start and after the stop
+    TickClock ticks;                    ///< likewise
+    Signal eventSignal;                 ///< likewise
+    RecursiveLock eventLock;            ///< likewise
+    MessageQueue messages{eventSignal}; ///< likewise
+    MessageHandler messageHandler;      ///< likewise
+    Input input{messages};              ///< likewise
+    CodePage codePage = codePageOf(0);  ///< likewise
+    bool wholeStrings = true;           ///< likewise: services 44 and 75
+    std::unique_ptr<Screen> screen;     ///< null unless started, and so are those below
     std::unique_ptr<FontStore> fonts;
     std::unique_ptr<FileStore<GFile>> files;
     std::unique_ptr<FileStore<GDataFile>> dataServer;

@@ -6,10 +6,10 @@
 
 namespace gpi {
 
-std::unique_ptr<BackEnd> openBackEnd(const Settings& settings, const Frame& frame) {
+std::unique_ptr<BackEnd> openBackEnd(const Settings& settings, const Frame& frame, Input& input) {
     switch (settings.display) {
     case DisplayKind::Sdl:
-        return openSdlBackEnd(settings, frame, VideoDriver::Any);
+        return openSdlBackEnd(settings, frame, input, VideoDriver::Any);
     case DisplayKind::Memory:
         return std::make_unique<MemoryBackEnd>();
     case DisplayKind::Png:
@@ -17,7 +17,7 @@ std::unique_ptr<BackEnd> openBackEnd(const Settings& settings, const Frame& fram
     case DisplayKind::Automatic:
         break;
     }
-    if (auto window = openSdlBackEnd(settings, frame, VideoDriver::DisplayServer)) {
+    if (auto window = openSdlBackEnd(settings, frame, input, VideoDriver::DisplayServer)) {
         return window;
     }
     return std::make_unique<PngBackEnd>(settings.png);

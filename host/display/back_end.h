@@ -3,6 +3,7 @@
 
 #include "config/settings.h"
 #include "display/frame.h"
+#include "input/input.h"
 
 #include <memory>
 
@@ -39,6 +40,9 @@ class BackEnd {
 
     virtual void setView(const View& view) = 0;
 
+    /// Whether a person sees the picture, and can close what shows it.
+    virtual bool isWindow() const { return false; }
+
     /// Blocks until the user closes what shows the picture. False where nobody can.
     virtual bool waitForClose() { return false; }
 
@@ -46,7 +50,8 @@ class BackEnd {
     virtual bool finish(const Frame& frame) = 0;
 };
 
-/// Opens what the settings ask for. Null, and one line is reported, when that cannot be had.
-std::unique_ptr<BackEnd> openBackEnd(const Settings& settings, const Frame& frame);
+/// Opens what the settings ask for; what a person does there goes to `input`. Null, and one line is
+/// reported, when that cannot be had.
+std::unique_ptr<BackEnd> openBackEnd(const Settings& settings, const Frame& frame, Input& input);
 
 } // namespace gpi

@@ -4,8 +4,9 @@
 
 namespace gpi {
 
-Display::Display(const Settings& settings)
+Display::Display(const Settings& settings, Input& input)
     : settings_(settings),
+      input_(input),
       frame_(settings.width, settings.height, settings.format),
       palette_(defaultPalette()),
       shown_(page(0)) {}
@@ -14,7 +15,7 @@ Display::~Display() = default;
 
 bool Display::open() {
     if (backEnd_ == nullptr) {
-        backEnd_ = openBackEnd(settings_, frame_);
+        backEnd_ = openBackEnd(settings_, frame_, input_);
         if (backEnd_ != nullptr) {
             backEnd_->setView(view_);
         }
@@ -128,6 +129,10 @@ void Display::applyView(View view) {
     if (backEnd_ != nullptr) {
         backEnd_->setView(view_);
     }
+}
+
+bool Display::hasWindow() const {
+    return backEnd_ != nullptr && backEnd_->isWindow();
 }
 
 bool Display::waitForClose() {

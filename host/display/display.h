@@ -20,7 +20,7 @@ inline constexpr int32_t kPageCount = 4;
 /// and the back end shows the frame.
 class Display {
   public:
-    explicit Display(const Settings& settings);
+    Display(const Settings& settings, Input& input);
     ~Display();
 
     /// Opens the back end. False, and nothing is shown, when it cannot be had.
@@ -58,6 +58,8 @@ class Display {
     bool setZoom(int32_t x, int32_t y);
     bool setScroll(int32_t left, int32_t top);
 
+    bool hasWindow() const;
+
     /// Blocks until the user closes the window; false where there is none.
     bool waitForClose();
 
@@ -66,6 +68,7 @@ class Display {
     void applyView(View view);
 
     const Settings settings_;
+    Input& input_;
     Frame frame_;
     Palette palette_;
     View view_;

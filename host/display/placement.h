@@ -33,4 +33,12 @@ constexpr Placement place(int pictureWidth, int pictureHeight, int windowWidth, 
     return {(windowWidth - width) / 2, (windowHeight - height) / 2, width, height};
 }
 
+/// Which of `size` units, spread over `length` pixels from `first`, a pixel lies on; below 0 or
+/// from `size` on for a pixel beside them.
+constexpr int unitAt(int pixel, int first, int length, int size) {
+    const int64_t distance = int64_t{pixel} - first;
+    const int64_t unit = distance * size / length;
+    return static_cast<int>(distance < 0 ? std::min<int64_t>(unit, -1) : unit);
+}
+
 } // namespace gpi

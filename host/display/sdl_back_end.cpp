@@ -1,6 +1,7 @@
 #include "display/sdl_back_end.h"
 
 #include "display/area.h"
+#include "display/sdl_input.h"
 #include "report.h"
 
 #include <condition_variable>
@@ -16,8 +17,9 @@ constexpr GRect kNothing{0, 0, -1, -1};
 
 class SdlBackEnd : public BackEnd {
   public:
-    SdlBackEnd(const Settings& settings, const Frame& frame)
+    SdlBackEnd(const Settings& settings, const Frame& frame, Input& input)
         : settings_(settings),
+          input_(input),
           rgb_(static_cast<size_t>(frame.width) * static_cast<size_t>(frame.height)) {}
 
     ~SdlBackEnd() override {
@@ -55,6 +57,8 @@ class SdlBackEnd : public BackEnd {
         progress_.wait(lock, [&] { return shown_ >= wanted || ended_; });
     }
 
+    bool isWindow() const override { return true; }
+
     bool waitForClose() override {
         std::unique_lock lock(mutex_);
         progress_.wait(lock, [&] { return closed_ || ended_; });
@@ -90,11 +94,12 @@ class SdlBackEnd : public BackEnd {
             return;
         }
         window->present(View());
+        SdlInput input(*window, input_);
         SDL_Event event;
         while (SDL_WaitEvent(&event) != 0) {
-            bool exposed = handle(event);
+            bool exposed = handle(event, input);
             while (SDL_PollEvent(&event) != 0) {
-                exposed = handle(event) || exposed;
+                exposed = handle(event, input) || exposed;
             }
             if (!refresh(*window, exposed)) {
                 break;
@@ -111,7 +116,8 @@ class SdlBackEnd : public BackEnd {
     }
 
     /// True when the window must be shown again.
-    bool handle(const SDL_Event& event) {
+    bool handle(const SDL_Event& event, SdlInput& input) {
+        input.handle(event);
         const bool windows = event.type == SDL_WINDOWEVENT;
         if (event.type == SDL_QUIT || (windows && event.window.event == SDL_WINDOWEVENT_CLOSE)) {
             const std::lock_guard lock(mutex_);
@@ -146,6 +152,7 @@ class SdlBackEnd : public BackEnd {
     }
 
     const Settings settings_;
+    Input& input_;
     std::thread thread_;
 
     std::mutex mutex_; ///< guards all that follows
@@ -163,9 +170,9 @@ class SdlBackEnd : public BackEnd {
 
 } // namespace
 
-std::unique_ptr<BackEnd> openSdlBackEnd(const Settings& settings, const Frame& frame,
+std::unique_ptr<BackEnd> openSdlBackEnd(const Settings& settings, const Frame& frame, Input& input,
                                         VideoDriver driver) {
-    auto backEnd = std::make_unique<SdlBackEnd>(settings, frame);
+    auto backEnd = std::make_unique<SdlBackEnd>(settings, frame, input);
     const std::string failure = backEnd->open(driver);
     if (failure.empty()) {
         return backEnd;

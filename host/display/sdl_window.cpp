@@ -3,6 +3,7 @@
 #include "display/area.h"
 #include "display/placement.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <string_view>
 
@@ -25,9 +26,14 @@ bool startVideo(VideoDriver driver) {
     // Copying rectangles needs no graphics processor, whose driver takes longer to load than the
     // whole program. A variable of the hint's name chooses another one.
     SDL_SetHint(SDL_HINT_RENDER_DRIVER, "software");
+    // The first finger on a touch screen is the left button.
+    SDL_SetHint(SDL_HINT_TOUCH_MOUSE_EVENTS, "1");
+    // Closing the window is told once, as what it is.
+    SDL_SetHint(SDL_HINT_QUIT_ON_LAST_WINDOW_CLOSE, "0");
     if (SDL_InitSubSystem(SDL_INIT_VIDEO) != 0) {
         return false;
     }
+    SDL_StopTextInput(); // keys are wanted, not what an input method makes of them
     const std::string_view found = SDL_GetCurrentVideoDriver();
     if (serverOnly && found != "x11" && found != "wayland") {
         SDL_QuitSubSystem(SDL_INIT_VIDEO);
@@ -78,17 +84,40 @@ void SdlWindow::upload(const std::vector<uint32_t>& rgb, const GRect& area) {
 }
 
 void SdlWindow::present(const View& view) {
-    const SDL_Rect part{view.left, view.top, std::max(1, width_ / view.zoomX),
-                        std::max(1, height_ / view.zoomY)};
+    shown_ = view;
+    const SDL_Rect part = partOf(view);
+    const SDL_Rect place = placeOf(view);
+    SDL_SetRenderDrawColor(renderer_.get(), 0, 0, 0, SDL_ALPHA_OPAQUE);
+    SDL_RenderClear(renderer_.get());
+    SDL_RenderCopy(renderer_.get(), texture_.get(), &part, &place);
+    SDL_RenderPresent(renderer_.get());
+}
+
+SdlWindow::Pixel SdlWindow::pixelAt(int x, int y) const {
+    const SDL_Rect part = partOf(shown_);
+    const SDL_Rect place = placeOf(shown_);
+    const int column = unitAt(x, place.x, place.w, part.w);
+    const int row = unitAt(y, place.y, place.h, part.h);
+    const int nearestColumn = std::clamp(column, 0, part.w - 1);
+    const int nearestRow = std::clamp(row, 0, part.h - 1);
+    return {static_cast<int16_t>(part.x + nearestColumn), static_cast<int16_t>(part.y + nearestRow),
+            column != nearestColumn || row != nearestRow};
+}
+
+/// The part of the picture that a view shows.
+SDL_Rect SdlWindow::partOf(const View& view) const {
+    return {view.left, view.top, std::max(1, width_ / view.zoomX),
+            std::max(1, height_ / view.zoomY)};
+}
+
+/// Where in the window it goes.
+SDL_Rect SdlWindow::placeOf(const View& view) const {
+    const SDL_Rect part = partOf(view);
     int windowWidth = 0;
     int windowHeight = 0;
     SDL_GetRendererOutputSize(renderer_.get(), &windowWidth, &windowHeight);
     const Placement at = place(part.w * view.zoomX, part.h * view.zoomY, windowWidth, windowHeight);
-    const SDL_Rect rect{at.x, at.y, at.width, at.height};
-    SDL_SetRenderDrawColor(renderer_.get(), 0, 0, 0, SDL_ALPHA_OPAQUE);
-    SDL_RenderClear(renderer_.get());
-    SDL_RenderCopy(renderer_.get(), texture_.get(), &part, &rect);
-    SDL_RenderPresent(renderer_.get());
+    return {at.x, at.y, at.width, at.height};
 }
 
 } // namespace gpi

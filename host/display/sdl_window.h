@@ -33,6 +33,15 @@ class SdlWindow {
     /// Makes what was uploaded visible.
     void present(const View& view);
 
+    /// The pixel of the picture that a place of the window shows; the nearest one for a place
+    /// beside the picture.
+    struct Pixel {
+        int16_t x;
+        int16_t y;
+        bool beside;
+    };
+    Pixel pixelAt(int x, int y) const;
+
     SDL_Window* window() const { return window_.get(); }
     SDL_Renderer* renderer() const { return renderer_.get(); }
 
@@ -45,9 +54,12 @@ class SdlWindow {
 
     SdlWindow(int width, int height) : width_(width), height_(height) {}
     bool create(const Settings& settings);
+    SDL_Rect partOf(const View& view) const;
+    SDL_Rect placeOf(const View& view) const;
 
     int width_;
     int height_;
+    View shown_;
     std::unique_ptr<SDL_Window, Destroy> window_;
     std::unique_ptr<SDL_Renderer, Destroy> renderer_;
     std::unique_ptr<SDL_Texture, Destroy> texture_;

@@ -4,9 +4,36 @@
 #include "platform.h"
 
 namespace gpi {
+namespace {
+
+/// Hands the next message to the program's handler and sees to those behind it.
+void offerMessage(Platform& self) {
+    if (self.messageHandler.offer(self.messages)) {
+        self.eventSignal.interrupt();
+    }
+}
+
+/// Waits for a signal. Messages are handed over one each wait while there are signals, so that
+/// neither holds up the other, and all of them while there are none.
+bool waitForSignal(Platform& self, Wait wait) {
+    const Deadline deadline(wait);
+    if (self.eventSignal.takeInterruption()) {
+        offerMessage(self);
+    }
+    Wake wake;
+    while ((wake = self.eventSignal.wait(deadline)) == Wake::Interrupted) {
+        offerMessage(self);
+    }
+    return wake == Wake::Signalled;
+}
+
+} // namespace
 
 int32_t startEventLock() {
-    return 1; // it is always there, and may be held already
+    return guarded(-1, [] {
+        platform().eventLock.start();
+        return 1;
+    });
 }
 
 int32_t startEventSignal() {
@@ -28,7 +55,7 @@ int32_t eventTaken() {
 }
 
 int32_t waitEvent(int32_t wait) {
-    return guarded(0, [&] { return platform().eventSignal.wait(wait) ? 1 : 0; });
+    return guarded(0, [&] { return waitForSignal(platform(), wait) ? 1 : 0; });
 }
 
 int32_t lockEvents(int32_t wait) {

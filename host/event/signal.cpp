@@ -1,23 +1,6 @@
 #include "event/signal.h"
 
-#include <chrono>
-
 namespace gpi {
-namespace {
-
-/// Waits for a condition. False when it did not come true in time.
-template <typename Condition>
-bool waitFor(std::condition_variable& changed, std::unique_lock<std::mutex>& lock, Wait wait,
-             const Condition& condition) {
-    if (wait < 0) {
-        changed.wait(lock, condition);
-        return true;
-    }
-    const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(wait);
-    return changed.wait_until(lock, end, condition);
-}
-
-} // namespace
 
 void Signal::start() {
     const std::lock_guard lock(mutex_);
@@ -33,13 +16,26 @@ void Signal::raise() {
     changed_.notify_one();
 }
 
-bool Signal::wait(Wait wait) {
-    std::unique_lock lock(mutex_);
-    if (!waitFor(changed_, lock, wait, [this] { return count_ > 0 || !running_; }) || !running_) {
-        return false;
+void Signal::interrupt() {
+    {
+        const std::lock_guard lock(mutex_);
+        interrupted_ = true;
     }
-    --count_;
-    return true;
+    changed_.notify_one();
+}
+
+Wake Signal::wait(const Deadline& deadline) {
+    std::unique_lock lock(mutex_);
+    const auto over = [this] { return count_ > 0 || interrupted_ || !running_; };
+    if (!deadline.waitFor(changed_, lock, over) || !running_) {
+        return Wake::Ended;
+    }
+    if (count_ > 0) {
+        --count_;
+        return Wake::Signalled;
+    }
+    interrupted_ = false;
+    return Wake::Interrupted;
 }
 
 void Signal::shutDown() {
@@ -50,10 +46,22 @@ void Signal::shutDown() {
     changed_.notify_all();
 }
 
+void RecursiveLock::start() {
+    {
+        const std::lock_guard lock(mutex_);
+        depth_ = 0;
+        running_ = true;
+    }
+    freed_.notify_one();
+}
+
 bool RecursiveLock::lock(Wait wait) {
     const auto self = std::this_thread::get_id();
+    const auto free = [&] { return depth_ == 0 || owner_ == self; };
     std::unique_lock lock(mutex_);
-    if (!waitFor(freed_, lock, wait, [&] { return depth_ == 0 || owner_ == self; })) {
+    // The clock is read only by those that have to wait.
+    if (!free() &&
+        !(Deadline(wait).waitFor(freed_, lock, [&] { return free() || !running_; }) && free())) {
         return false;
     }
     owner_ = self;
@@ -71,6 +79,14 @@ bool RecursiveLock::unlock() {
     }
     freed_.notify_one();
     return true;
+}
+
+void RecursiveLock::shutDown() {
+    {
+        const std::lock_guard lock(mutex_);
+        running_ = false;
+    }
+    freed_.notify_all();
 }
 
 } // namespace gpi

@@ -1,6 +1,9 @@
 // What the event queue waits on, and what it locks.
 #pragma once
 
+#include "event/deadline.h"
+
+#include <atomic>
 #include <condition_variable>
 #include <cstdint>
 #include <mutex>
@@ -8,9 +11,12 @@
 
 namespace gpi {
 
-/// How long to wait, as services say it: milliseconds of a steady clock, 0 not at all, -1 without
-/// limit.
-using Wait = int32_t;
+/// How a wait for a signal ended.
+enum class Wake {
+    Signalled,
+    Interrupted, ///< without a signal
+    Ended        ///< nothing came in time, or the signal is shut down
+};
 
 /// A counting semaphore: as many waits succeed as there were signals. Any thread may use it.
 class Signal {
@@ -20,8 +26,15 @@ class Signal {
 
     void raise();
 
-    /// False when nothing was signalled in time, or the signal is shut down.
-    bool wait(Wait wait);
+    /// Ends one wait, the present or the next one, that has no signal.
+    void interrupt();
+
+    /// Takes back an interruption that no wait has noticed. False when there is none.
+    bool takeInterruption() {
+        return interrupted_.load(std::memory_order_relaxed) && interrupted_.exchange(false);
+    }
+
+    Wake wait(const Deadline& deadline);
 
     /// Ends all waits, present and future, until the next start.
     void shutDown();
@@ -31,23 +44,31 @@ class Signal {
     std::condition_variable changed_;
     uint64_t count_ = 0;
     bool running_ = true;
+    std::atomic<bool> interrupted_ = false; ///< set under the lock only
 };
 
 /// A lock that one thread may take several times. Unlike the library's own it can be waited for
 /// with a limit, and one that a thread does not hold cannot be undone by it.
 class RecursiveLock {
   public:
+    /// Frees it, whoever holds it, and lets threads wait for it again.
+    void start();
+
     /// False when others hold it for too long.
     bool lock(Wait wait);
 
     /// False for a thread that does not hold it.
     bool unlock();
 
+    /// Ends all waits, present and future, until the next start. Whoever holds it goes on doing so.
+    void shutDown();
+
   private:
     std::mutex mutex_;
     std::condition_variable freed_;
     std::thread::id owner_;
     int32_t depth_ = 0;
+    bool running_ = true;
 };
 
 } // namespace gpi

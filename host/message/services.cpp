@@ -1,18 +1,12 @@
 #include "message/services.h"
 
-#include "guard.h"
-#include "platform.h"
+#include <gpi/host.h>
 
 namespace gpi {
 
 int32_t nextMessage(GMessage* message) {
-    return guarded(0, [&] {
-        const auto next = message != nullptr ? platform().messages.take() : std::nullopt;
-        if (next) {
-            *message = *next;
-        }
-        return next ? 1 : 0;
-    });
+    constexpr int32_t kNoWait = 0;
+    return GPIHostWaitMessage(message, kNoWait);
 }
 
 } // namespace gpi

@@ -28,6 +28,40 @@
  *
  * GDChangeVirtualVram() shows a page as a whole, and flushes take from that page from then on.
  *
+ * Messages: what a person does at the window, and what programs post, waits in one queue until the
+ * program takes it, in the order in which it came. There are two ways to take it. A program that
+ * wants messages waits for them with GPIHostWaitMessage(). One that wants events sets a handler,
+ * which GEGetEvent() calls while it waits, and which posts events:
+ *
+ *     void onMessage(void* context, const GMessage* message) {
+ *         GEventMsg event;
+ *         if (message->number == G_MESSAGE_KEY_DOWN)
+ *             GESetEvent(*GECreateEventMessage(&event, KEY, PANEL, (uint32_t)message->param1, 0),
+ * 0);
+ *     }
+ *
+ * Threads: the window has a thread of its own, which asks the display server for input. It calls
+ * nothing of the program: it only fills the queue and wakes whoever waits. Messages may be posted,
+ * fed and taken from any thread.
+ *
+ * Keyboard: a key that goes down is #G_MESSAGE_KEY_DOWN, once more each time it repeats, and
+ * #G_MESSAGE_KEY_UP when it is released or the window loses the keyboard. keys.h has the numbers of
+ * keys and what else the parameters say.
+ *
+ * Pointer: a mouse, or the first finger on a touch screen as its left button. Positions are those
+ * of the display's surface, whatever the size of the window, the zoom and the scroll position.
+ * #G_MESSAGE_LEFT_DOUBLE comes in place of #G_MESSAGE_LEFT_DOWN for a press within half a second
+ * and 16 pixels of the one before; it is a press like any other. A press beside the picture is
+ * none, and a drag that leaves the picture goes on along its edge.
+ *
+ * Window: #G_MESSAGE_QUIT when the user closes it, which does nothing else; #G_MESSAGE_PAINT when
+ * it was uncovered, which need not be answered since the window shows its picture again by itself.
+ *
+ * The queue is bounded. Moves of the pointer that follow each other become one, repeats of a key
+ * are counted in one message, and one paint and one quit message wait behind all others. When 224
+ * messages wait, others are refused; releases have 32 more places, and what was refused is not
+ * released either.
+ *
  * Drawing on a device surface stays inside it whatever the coordinates. Smooth glyphs have levels
  * from 0 to 15. A fill by service 70 without a pattern takes the one that service 69 was told of.
  */
@@ -35,6 +69,7 @@
 #define GPI_HOST_H
 
 #include <gpi/gpi.h>
+#include <gpi/keys.h>
 
 QUARLO_BEGIN
 
@@ -55,14 +90,67 @@ GPI_API int32_t GPIHostWaitForClose(void);
  */
 GPI_API int32_t GPIHostWritePng(const char* path);
 
+/** Whether a window shows the display. @return 1 or 0 */
+GPI_API int32_t GPIHostHasWindow(void);
+
 /**
- * Posts a message to the program's main loop, from any thread: input of a device that the platform
- * does not know, or a program's own.
+ * Posts a message as it is: input of a device that the platform does not know, or a program's own.
  *
  * @param message copied
- * @return 1; 0 for null
+ * @return 1; 0 for null, or when too many wait
  */
 GPI_API int32_t GPIHostPostMessage(const GMessage* message);
+
+/**
+ * Takes the next message, waiting for one. The thread sleeps meanwhile.
+ *
+ * @param message receives it; left as it was when there is none
+ * @param wait milliseconds to wait, 0 not to wait, -1 without limit
+ * @return 1; 0 for null, or when no message came
+ */
+GPI_API int32_t GPIHostWaitMessage(GMessage* message, int32_t wait);
+
+/**
+ * Is told of a message, which is out of the queue by then.
+ *
+ * @param context as it was given with the handler
+ * @param message valid during the call
+ */
+typedef void (*GPIHostMessageHandler)(void* context, const GMessage* message);
+
+/**
+ * Sets the function that takes the messages while a thread waits in GEGetEvent() (service 33). It
+ * runs in that thread, without the event queue's lock, one call at a time: with one message each
+ * wait while events are pending, and with all there are while none is, so that input neither waits
+ * for ever nor floods the event queue. It may post events, take messages, and set or remove
+ * handlers.
+ *
+ * Returns when the handler before it does not run any more, except to that handler itself. So the
+ * caller must not hold what a running handler waits for.
+ *
+ * @param handler null to leave messages in the queue, as at first
+ * @param context handed to each call
+ */
+GPI_API void GPIHostSetMessageHandler(GPIHostMessageHandler handler, void* context);
+
+/**
+ * Presses or releases a key as a person would, on any display: for scripts and tests.
+ *
+ * @param key a number of keys.h
+ * @param down 1 pressed, or repeated when it is down; 0 released
+ * @return 1; 0 for a number that no key has, a release of what is not down, or when too many
+ *     messages wait
+ */
+GPI_API int32_t GPIHostFeedKey(int32_t key, int32_t down);
+
+/**
+ * Moves the pointer and sets what is held down there, as a person would, on any display.
+ *
+ * @param x,y a position on the display's surface
+ * @param buttons #GPI_POINTER_LEFT and #GPI_POINTER_RIGHT in any combination
+ * @return 1; 0 for a negative position or one beyond 32767, or when too many messages wait
+ */
+GPI_API int32_t GPIHostFeedPointer(int32_t x, int32_t y, uint32_t buttons);
 
 QUARLO_END
 

@@ -120,27 +120,34 @@ TEST(NoWindow, GivesAPictureFileUnlessOneWasAskedFor) {
         {"SDL_VIDEODRIVER", "x11"}, {"DISPLAY", {}}, {"WAYLAND_DISPLAY", {}}};
     Settings settings = smallWindow();
     const Frame frame(6, 4, kFormat555);
+    Signal events;
+    MessageQueue messages(events);
+    Input input(messages);
     testing::internal::CaptureStderr();
-    EXPECT_EQ(openBackEnd(settings, frame), nullptr);
+    EXPECT_EQ(openBackEnd(settings, frame, input), nullptr);
     const std::string said = testing::internal::GetCapturedStderr();
     EXPECT_EQ(said.rfind("gpi: cannot open a window: ", 0), 0U) << said;
     EXPECT_EQ(std::count(said.begin(), said.end(), '\n'), 1);
     settings.display = DisplayKind::Automatic;
     testing::internal::CaptureStderr();
-    const auto backEnd = openBackEnd(settings, frame);
+    const auto backEnd = openBackEnd(settings, frame, input);
     ASSERT_NE(backEnd, nullptr);
     EXPECT_FALSE(backEnd->waitForClose());
+    EXPECT_FALSE(backEnd->isWindow());
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
 }
 
 class WindowThread : public testing::Test {
   protected:
     std::unique_ptr<BackEnd> open() {
-        return openSdlBackEnd(smallWindow(), frame_, VideoDriver::Any);
+        return openSdlBackEnd(smallWindow(), frame_, input_, VideoDriver::Any);
     }
 
     Environment environment_{{"SDL_VIDEODRIVER", "dummy"}};
     Frame frame_{6, 4, kFormat24};
+    Signal events_;
+    MessageQueue messages_{events_};
+    Input input_{messages_};
 };
 
 TEST_F(WindowThread, SettlesAfterEveryChange) {

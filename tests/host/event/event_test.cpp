@@ -59,7 +59,12 @@ TEST(EventSignal, ShutDownEndsAllWaits) {
     startSignal();
 }
 
-TEST(EventLock, MayBeTakenSeveralTimesByOneThread) {
+class EventLock : public testing::Test {
+  protected:
+    EventLock() { startLock(); }
+};
+
+TEST_F(EventLock, MayBeTakenSeveralTimesByOneThread) {
     EXPECT_EQ(lock(-1), 1);
     EXPECT_EQ(lock(0), 1);
     auto other = std::async(std::launch::async, [] { return lock(10); });
@@ -75,7 +80,32 @@ TEST(EventLock, MayBeTakenSeveralTimesByOneThread) {
     EXPECT_EQ(other.get(), 1);
 }
 
-TEST(EventLock, KeepsThreadsApart) {
+TEST_F(EventLock, IsFreeAfterAStart) {
+    lock(-1);
+    lock(-1);
+    EXPECT_EQ(startLock(), 1);
+    auto other = std::async(std::launch::async, [] { return lock(0) == 1 ? unlock() : -1; });
+    EXPECT_EQ(other.get(), 1);
+    EXPECT_LT(unlock(), 0);
+}
+
+TEST_F(EventLock, ShutDownEndsAllWaits) {
+    lock(-1);
+    std::vector<std::future<int32_t>> waiting;
+    for (int i = 0; i < 3; ++i) {
+        waiting.push_back(std::async(std::launch::async, [] { return lock(-1); }));
+    }
+    GPIShutdownEvents();
+    for (auto& result : waiting) {
+        EXPECT_LT(result.get(), 0);
+    }
+    EXPECT_EQ(lock(-1), 1) << "its holder goes on";
+    EXPECT_EQ(unlock(), 1);
+    EXPECT_EQ(unlock(), 1);
+    startSignal();
+}
+
+TEST_F(EventLock, KeepsThreadsApart) {
     int64_t counter = 0;
     std::vector<std::thread> threads;
     for (int thread = 0; thread < 4; ++thread) {
