@@ -1,44 +1,36 @@
 #include "keys.h"
 
-#include <SDL.h>
+#include <gpi/host.h>
 
 #include <optional>
 
 namespace gallery {
 namespace {
 
-std::optional<Key> keyOf(SDL_Keycode code) {
-    switch (code) {
-    case SDLK_PAGEUP:
-    case SDLK_LEFT:
-    case SDLK_UP:
-        return Key::Previous;
-    case SDLK_PAGEDOWN:
-    case SDLK_RIGHT:
-    case SDLK_DOWN:
-    case SDLK_SPACE:
-        return Key::Next;
-    case SDLK_HOME:
-        return Key::First;
-    case SDLK_END:
-        return Key::Last;
-    case SDLK_ESCAPE:
-    case SDLK_q:
+std::optional<Key> keyOf(const GMessage& message) {
+    if (message.number == G_MESSAGE_QUIT) {
         return Key::Close;
-    default:
+    }
+    if (message.number != G_MESSAGE_KEY_DOWN) {
         return std::nullopt;
     }
-}
-
-std::optional<Key> keyOf(const SDL_Event& event) {
-    switch (event.type) {
-    case SDL_KEYDOWN:
-        return keyOf(event.key.keysym.sym);
-    case SDL_QUIT:
+    switch (message.param1) {
+    case GPI_KEY_PAGE_UP:
+    case GPI_KEY_LEFT:
+    case GPI_KEY_UP:
+        return Key::Previous;
+    case GPI_KEY_PAGE_DOWN:
+    case GPI_KEY_RIGHT:
+    case GPI_KEY_DOWN:
+    case GPI_KEY_SPACE:
+        return Key::Next;
+    case GPI_KEY_HOME:
+        return Key::First;
+    case GPI_KEY_END:
+        return Key::Last;
+    case GPI_KEY_ESCAPE:
+    case 'Q':
         return Key::Close;
-    case SDL_WINDOWEVENT:
-        return event.window.event == SDL_WINDOWEVENT_CLOSE ? std::optional(Key::Close)
-                                                           : std::nullopt;
     default:
         return std::nullopt;
     }
@@ -62,36 +54,15 @@ size_t turned(size_t sheet, size_t count, Key key) {
     return sheet;
 }
 
-Keys::Keys() {
-    SDL_AddEventWatch(watch, this);
-}
-
-Keys::~Keys() {
-    SDL_DelEventWatch(watch, this);
-}
-
-Key Keys::wait() {
-    if (SDL_WasInit(SDL_INIT_VIDEO) == 0) {
-        return Key::Close;
+Key waitForKey() {
+    constexpr int32_t kNoLimit = -1;
+    GMessage message;
+    while (GPIHostHasWindow() != 0 && GPIHostWaitMessage(&message, kNoLimit) != 0) {
+        if (const auto key = keyOf(message)) {
+            return *key;
+        }
     }
-    std::unique_lock lock(mutex_);
-    pressed_.wait(lock, [this] { return !keys_.empty(); });
-    const Key key = keys_.front();
-    keys_.pop();
-    return key;
-}
-
-int Keys::watch(void* keys, SDL_Event* event) {
-    static_cast<Keys*>(keys)->take(*event);
-    return 0;
-}
-
-void Keys::take(const SDL_Event& event) {
-    if (const auto key = keyOf(event)) {
-        const std::lock_guard lock(mutex_);
-        keys_.push(*key);
-        pressed_.notify_one();
-    }
+    return Key::Close;
 }
 
 } // namespace gallery

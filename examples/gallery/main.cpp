@@ -94,11 +94,11 @@ ExitStatus writeAll(gallery::Display& display, const std::filesystem::path& fold
     return kDone;
 }
 
-void showFrom(gallery::Display& display, gallery::Keys& keys, size_t sheet) {
+void showFrom(gallery::Display& display, size_t sheet) {
     gallery::Key key;
     do {
         display.show(sheet);
-        key = keys.wait();
+        key = gallery::waitForKey();
         sheet = gallery::turned(sheet, gallery::sheets().size(), key);
     } while (key != gallery::Key::Close);
 }
@@ -116,7 +116,6 @@ int main(int argc, char** argv) {
         return kDone;
     }
     configureHost(*options);
-    gallery::Keys keys; // before there is a window, so that none is missed
     gallery::Display display;
     if (!display.ready()) {
         std::cerr << "gallery: there is no display\n";
@@ -125,6 +124,6 @@ int main(int argc, char** argv) {
     if (!options->folder.empty()) {
         return writeAll(display, options->folder);
     }
-    showFrom(display, keys, options->sheet);
+    showFrom(display, options->sheet);
     return kDone;
 }

@@ -60,11 +60,17 @@ bool Input::press(Button button) {
     if (isDown(button)) {
         return false;
     }
-    const uint8_t before = state_.buttons;
+    const Press press{millisecondsNow(), state_.x, state_.y};
+    const uint32_t number = numberOf(press, button);
     state_.buttons |= bitOf(button); // the message shows it as held already
-    const bool posted = postPointer(numberOfPress(button));
-    state_.buttons = posted ? state_.buttons : before;
-    return posted;
+    if (!postPointer(number)) {
+        state_.buttons &= static_cast<uint8_t>(~bitOf(button));
+        return false;
+    }
+    if (button == Button::Left) {
+        state_.single = number == G_MESSAGE_LEFT_DOWN ? std::optional(press) : std::nullopt;
+    }
+    return true;
 }
 
 bool Input::release(Button button) {
@@ -122,16 +128,14 @@ bool Input::isDown(Button button) const {
     return (state_.buttons & bitOf(button)) != 0;
 }
 
-uint32_t Input::numberOfPress(Button button) {
+uint32_t Input::numberOf(const Press& press, Button button) const {
     if (button == Button::Right) {
         return G_MESSAGE_RIGHT_DOWN;
     }
-    const Press now{millisecondsNow(), state_.x, state_.y};
     const auto& first = state_.single;
-    const bool second = first && now.time - first->time <= kDoubleMilliseconds &&
-                        std::abs(now.x - first->x) <= kDoublePixels &&
-                        std::abs(now.y - first->y) <= kDoublePixels;
-    state_.single = second ? std::nullopt : std::optional(now);
+    const bool second = first && press.time - first->time <= kDoubleMilliseconds &&
+                        std::abs(press.x - first->x) <= kDoublePixels &&
+                        std::abs(press.y - first->y) <= kDoublePixels;
     return second ? G_MESSAGE_LEFT_DOUBLE : G_MESSAGE_LEFT_DOWN;
 }
 

@@ -46,7 +46,7 @@ class Input {
     void reset();
 
   private:
-    /// The last press of the left button; a second one soon after is a double one.
+    /// When and where a button went down.
     struct Press {
         uint32_t time;
         int16_t x;
@@ -58,14 +58,15 @@ class Input {
         uint8_t buttons = 0;
         int16_t x = 0;
         int16_t y = 0;
-        std::optional<Press> single;
+        std::optional<Press>
+            single; ///< of the left button; a second one soon after is a double one
     };
 
     bool letGo(uint8_t place);
     bool letGo(Button button);
     bool isDown(uint8_t number) const;
     bool isDown(Button button) const;
-    uint32_t numberOfPress(Button button);
+    uint32_t numberOf(const Press& press, Button button) const;
     bool postKey(uint32_t number, Key key, GWord bits);
     bool postPointer(uint32_t number);
     bool post(uint32_t number, GWord param1, GWord param2);

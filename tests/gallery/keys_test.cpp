@@ -1,14 +1,14 @@
-// The keys that turn the gallery's pages, pushed as a window's thread would.
+// The keys that turn the gallery's pages.
 #include "keys.h"
 
-#include <SDL.h>
+#include "support/started_platform.h"
+
+#include <gpi/host.h>
 
 #include <gtest/gtest.h>
 
-#include <initializer_list>
-#include <thread>
-
 using namespace gallery;
+using gpi::test::StartedPlatform;
 
 namespace {
 
@@ -23,59 +23,36 @@ TEST(GalleryPages, AreTurnedRoundTheEnds) {
     EXPECT_EQ(turned(2, kCount, Key::Close), 2U);
 }
 
+void press(int32_t key) {
+    ASSERT_EQ(GPIHostFeedKey(key, 1), 1);
+    ASSERT_EQ(GPIHostFeedKey(key, 0), 1);
+}
+
 TEST(GalleryKeys, AreNotWaitedForWithoutAWindow) {
-    Keys keys;
-    EXPECT_EQ(keys.wait(), Key::Close);
+    const StartedPlatform platform;
+    press(GPI_KEY_RIGHT);
+    EXPECT_EQ(waitForKey(), Key::Close);
 }
 
-class GalleryKeysOfAWindow : public testing::Test {
-  protected:
-    GalleryKeysOfAWindow() {
-        SDL_SetHint(SDL_HINT_VIDEODRIVER, "dummy");
-        started_ = SDL_InitSubSystem(SDL_INIT_VIDEO) == 0;
+TEST(GalleryKeys, ComeInTheirOrder) {
+    const StartedPlatform platform{{"QUARLO_DISPLAY", "sdl"}, {"SDL_VIDEODRIVER", "dummy"}};
+    ASSERT_EQ(platform.started(), 1U);
+    constexpr int32_t kKeys[] = {GPI_KEY_PAGE_DOWN, GPI_KEY_LEFT, 'A', GPI_KEY_SPACE,
+                                 GPI_KEY_HOME,      GPI_KEY_END,  'Q'};
+    for (const int32_t key : kKeys) {
+        press(key);
     }
-    ~GalleryKeysOfAWindow() override { SDL_Quit(); }
-    void SetUp() override { ASSERT_TRUE(started_) << SDL_GetError(); }
-
-    static void press(SDL_Keycode code) {
-        SDL_Event event{};
-        event.type = SDL_KEYDOWN;
-        event.key.keysym.sym = code;
-        SDL_PushEvent(&event);
-    }
-
-    static void closeWindow() {
-        SDL_Event event{};
-        event.type = SDL_WINDOWEVENT;
-        event.window.event = SDL_WINDOWEVENT_CLOSE;
-        SDL_PushEvent(&event);
-    }
-
-  private:
-    bool started_;
-};
-
-TEST_F(GalleryKeysOfAWindow, ComeInTheirOrder) {
-    Keys keys;
-    std::thread window([] {
-        for (const SDL_Keycode code :
-             {SDLK_PAGEDOWN, SDLK_LEFT, SDLK_a, SDLK_SPACE, SDLK_HOME, SDLK_END}) {
-            press(code);
-        }
-        closeWindow();
-    });
     for (const Key key : {Key::Next, Key::Previous, Key::Next, Key::First, Key::Last, Key::Close}) {
-        EXPECT_EQ(keys.wait(), key);
+        EXPECT_EQ(waitForKey(), key);
     }
-    window.join();
 }
 
-TEST_F(GalleryKeysOfAWindow, OfOtherTimesAreNotTaken) {
-    { const Keys before; }
-    press(SDLK_RIGHT);
-    Keys keys;
-    press(SDLK_ESCAPE);
-    EXPECT_EQ(keys.wait(), Key::Close);
+TEST(GalleryKeys, CloseWithTheWindow) {
+    const StartedPlatform platform{{"QUARLO_DISPLAY", "sdl"}, {"SDL_VIDEODRIVER", "dummy"}};
+    GMessage quit{};
+    quit.number = G_MESSAGE_QUIT;
+    GPIHostPostMessage(&quit);
+    EXPECT_EQ(waitForKey(), Key::Close);
 }
 
 } // namespace
