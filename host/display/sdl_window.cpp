@@ -28,6 +28,8 @@ bool startVideo(VideoDriver driver) {
     SDL_SetHint(SDL_HINT_RENDER_DRIVER, "software");
     // The first finger on a touch screen is the left button.
     SDL_SetHint(SDL_HINT_TOUCH_MOUSE_EVENTS, "1");
+    // A press counts, also the one by which the window gets the keyboard.
+    SDL_SetHint(SDL_HINT_MOUSE_FOCUS_CLICKTHROUGH, "1");
     // Closing the window is told once, as what it is.
     SDL_SetHint(SDL_HINT_QUIT_ON_LAST_WINDOW_CLOSE, "0");
     if (SDL_InitSubSystem(SDL_INIT_VIDEO) != 0) {

@@ -5,8 +5,6 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <vector>
-
 namespace gpi::test {
 namespace {
 
@@ -55,7 +53,7 @@ XServer::~XServer() {
     }
 }
 
-int run(const std::initializer_list<std::string>& words) {
+int run(const std::vector<std::string>& words) {
     const pid_t child = fork();
     if (child == 0) {
         become(words);

@@ -4,6 +4,7 @@
 #include <sys/types.h>
 
 #include <string>
+#include <vector>
 
 namespace gpi::test {
 
@@ -24,6 +25,6 @@ class XServer {
 };
 
 /// Runs a program without a shell, its output thrown away. Its exit status, or -1.
-int run(const std::initializer_list<std::string>& words);
+int run(const std::vector<std::string>& words);
 
 } // namespace gpi::test

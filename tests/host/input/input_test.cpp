@@ -166,6 +166,15 @@ TEST_F(Person, ClicksTwice) {
     EXPECT_EQ(pressesOf(GPoint{500, 100}, GPoint{500, 83}), (Texts{"left down", "left down"}));
 }
 
+TEST_F(Person, ClicksTwiceOnlyInQuickSuccession) {
+    input.press(Button::Left);
+    input.release(Button::Left);
+    taken();
+    EXPECT_FALSE(messages.take(501));
+    input.press(Button::Left);
+    EXPECT_EQ(taken(), Texts{"left down 0,0 held 1"});
+}
+
 TEST_F(Person, HasAPointerWhileTyping) {
     input.moveTo(7, 8);
     input.keyDown(kA);
