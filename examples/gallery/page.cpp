@@ -11,10 +11,10 @@ namespace {
 
 constexpr int kGap = 24;
 constexpr int kRowGap = 20;
-constexpr int kCaptionGap = 8;
-constexpr int kHeadingTop = 26;
-constexpr int kHeadingScale = 2;
+constexpr int kCaptionGap = 3;
+constexpr int kHeadingTop = 21;
 constexpr int kHeadingGap = 12;
+constexpr int kRemarkTop = 30;
 constexpr int kRuleTop = 48;
 
 } // namespace
@@ -24,7 +24,7 @@ GRect Grid::figure(int index) const {
     const int height = (area_.bottom - area_.top + 1 - (rows_ - 1) * kRowGap) / rows_;
     const int left = area_.left + index % columns_ * (width + kGap);
     const int top = area_.top + index / columns_ * (height + kRowGap);
-    return box(left, top, width, height - kCaptionGap - capHeight(1));
+    return box(left, top, width, height - kCaptionGap - kSmallLabel);
 }
 
 void resetState(GDrawHandle* handle) {
@@ -47,16 +47,15 @@ void beginPage(GDrawHandle* handle, int number, std::string_view title, std::str
     fillBox(handle, box(0, 0, kPageWidth, kPageHeight), kPaper);
 
     const std::string numeral = std::to_string(number);
-    const int titleLeft = kContent.left + textWidth(numeral, kHeadingScale) + kHeadingGap;
-    drawText(handle, kContent.left, kHeadingTop, numeral, kRed, kHeadingScale);
-    drawText(handle, titleLeft, kHeadingTop, title, kInk, kHeadingScale);
-    const int baseline = kHeadingTop + capHeight(kHeadingScale);
-    drawText(handle, kContent.right - textWidth(remark), baseline - capHeight(1), remark, kGrey);
+    const int titleLeft = kContent.left + labelWidth(handle, numeral, kHeading) + kHeadingGap;
+    drawLabel(handle, kContent.left, kHeadingTop, numeral, kRed, kHeading);
+    drawLabel(handle, titleLeft, kHeadingTop, title, kInk, kHeading);
+    drawLabel(handle, kContent.right + 1 - labelWidth(handle, remark), kRemarkTop, remark, kGrey);
     drawLine(handle, kContent.left, kRuleTop, kContent.right, kRuleTop);
 }
 
 void drawCaption(GDrawHandle* handle, const GRect& figure, std::string_view text) {
-    drawText(handle, figure.left, figure.bottom + 1 + kCaptionGap, text, kGrey);
+    drawLabel(handle, figure.left, figure.bottom + 1 + kCaptionGap, text, kGrey);
 }
 
 } // namespace gallery

@@ -1,7 +1,7 @@
 // A page of the gallery: a heading, and figures in a grid with a caption below each.
 #pragma once
 
-#include "stroke_text.h"
+#include "label.h"
 
 #include <quarlo/types.h>
 

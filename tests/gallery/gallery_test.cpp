@@ -1,4 +1,5 @@
 // The sheets of the gallery against the pictures that someone looked at.
+#include "host_fonts.h"
 #include "rgb_image.h"
 #include "scratch.h"
 #include "sheet.h"
@@ -69,6 +70,7 @@ class GallerySheet : public testing::TestWithParam<size_t> {
     }
 
     RecordingPlatform platform_;
+    HostFonts fonts_{platform_};
     GuardedSurface display_{gallery::kPageWidth, gallery::kPageHeight, 24};
     GDrawHandle* handle_ = nullptr;
     RgbImage reviewed_;

@@ -85,18 +85,18 @@ void meter(GDrawHandle* handle, const GRect& figure) {
 
 void drawArcFigures(GDrawHandle* handle) {
     const Grid grid(4, 3);
-    drawFigure(handle, grid.figure(0), "0 TO 90", between(0, 900, 1));
-    drawFigure(handle, grid.figure(1), "45 TO 225", between(450, 2250, 1));
-    drawFigure(handle, grid.figure(2), "300 TO 60", between(3000, 600, 1));
-    drawFigure(handle, grid.figure(3), "60 TO 300", between(600, 3000, 1));
-    drawFigure(handle, grid.figure(4), "PEN 3", between(450, 2250, 3));
-    drawFigure(handle, grid.figure(5), "PEN 8", between(600, 3000, 8));
-    drawFigure(handle, grid.figure(6), "PEN 12", between(3000, 600, 12));
-    drawFigure(handle, grid.figure(7), "12 PARTS", ring);
-    drawFigure(handle, grid.figure(8), "HALVES", rainbow);
-    drawFigure(handle, grid.figure(9), "A SPIRAL", spiral);
-    drawFigure(handle, grid.figure(10), "A METER", meter);
-    drawFigure(handle, grid.figure(11), "1 TO 359, PEN 5", between(10, 3590, 5));
+    drawFigure(handle, grid.figure(0), "0 to 90", between(0, 900, 1));
+    drawFigure(handle, grid.figure(1), "45 to 225", between(450, 2250, 1));
+    drawFigure(handle, grid.figure(2), "300 to 60", between(3000, 600, 1));
+    drawFigure(handle, grid.figure(3), "60 to 300", between(600, 3000, 1));
+    drawFigure(handle, grid.figure(4), "Pen 3", between(450, 2250, 3));
+    drawFigure(handle, grid.figure(5), "Pen 8", between(600, 3000, 8));
+    drawFigure(handle, grid.figure(6), "Pen 12", between(3000, 600, 12));
+    drawFigure(handle, grid.figure(7), "12 parts", ring);
+    drawFigure(handle, grid.figure(8), "Halves", rainbow);
+    drawFigure(handle, grid.figure(9), "A spiral", spiral);
+    drawFigure(handle, grid.figure(10), "A meter", meter);
+    drawFigure(handle, grid.figure(11), "1 to 359, pen 5", between(10, 3590, 5));
 }
 
 } // namespace gallery

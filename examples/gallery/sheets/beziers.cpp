@@ -137,18 +137,18 @@ void rope(GDrawHandle* handle, const GRect& figure) {
 
 void drawBezierFigures(GDrawHandle* handle) {
     const Grid grid(4, 3);
-    drawFigure(handle, grid.figure(0), "AN ARCH", withHandles({4, 96, 20, 4, 80, 4, 96, 96}));
-    drawFigure(handle, grid.figure(1), "A WAVE", withHandles({4, 50, 40, 4, 60, 96, 96, 50}));
-    drawFigure(handle, grid.figure(2), "A CUSP", withHandles({4, 96, 96, 4, 4, 4, 96, 96}));
-    drawFigure(handle, grid.figure(3), "A HOOK", withHandles({4, 96, 4, 4, 96, 96, 96, 40}));
-    drawFigure(handle, grid.figure(4), "A SWEEP", sweep);
-    drawFigure(handle, grid.figure(5), "A LEAF", leaf);
-    drawFigure(handle, grid.figure(6), "PENS 1 TO 8", pens);
-    drawFigure(handle, grid.figure(7), "DASHES 1 TO 8", dashes);
-    drawFigure(handle, grid.figure(8), "PETALS", petals);
-    drawFigure(handle, grid.figure(9), "A CIRCLE OF FOUR", circle);
-    drawFigure(handle, grid.figure(10), "A NIB OF 6 x 2", script);
-    drawFigure(handle, grid.figure(11), "A ROPE, PEN 5", rope);
+    drawFigure(handle, grid.figure(0), "An arch", withHandles({4, 96, 20, 4, 80, 4, 96, 96}));
+    drawFigure(handle, grid.figure(1), "A wave", withHandles({4, 50, 40, 4, 60, 96, 96, 50}));
+    drawFigure(handle, grid.figure(2), "A cusp", withHandles({4, 96, 96, 4, 4, 4, 96, 96}));
+    drawFigure(handle, grid.figure(3), "A hook", withHandles({4, 96, 4, 4, 96, 96, 96, 40}));
+    drawFigure(handle, grid.figure(4), "A sweep", sweep);
+    drawFigure(handle, grid.figure(5), "A leaf", leaf);
+    drawFigure(handle, grid.figure(6), "Pens 1 to 8", pens);
+    drawFigure(handle, grid.figure(7), "Dashes 1 to 8", dashes);
+    drawFigure(handle, grid.figure(8), "Petals", petals);
+    drawFigure(handle, grid.figure(9), "A circle of four", circle);
+    drawFigure(handle, grid.figure(10), "A nib of 6 x 2", script);
+    drawFigure(handle, grid.figure(11), "A rope, pen 5", rope);
 }
 
 } // namespace gallery

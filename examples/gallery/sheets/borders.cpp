@@ -59,8 +59,7 @@ void keys(GDrawHandle* handle, const GRect& figure) {
         const std::string name(1, static_cast<char>('A' + i));
         const GPoint centre = centreOf(key);
         const int shift = pressed ? 1 : 0;
-        drawText(handle, centre.x - textWidth(name) / 2 + shift,
-                 centre.y - capHeight(1) / 2 + shift, name, kInk);
+        drawCentredLabel(handle, point(centre.x + shift, centre.y + shift), name, kInk);
     }
 }
 
@@ -81,15 +80,15 @@ void drawBorderFigures(GDrawHandle* handle) {
     };
     for (int i = 0; i < 4; ++i) {
         const std::string width = std::to_string(kWidths[i]);
-        drawFigure(handle, grid.figure(i), "RAISED " + width,
+        drawFigure(handle, grid.figure(i), "Raised " + width,
                    plate(borderOf(kWidths[i]), G_BORDER_RAISED));
-        drawFigure(handle, grid.figure(4 + i), "SUNKEN " + width,
+        drawFigure(handle, grid.figure(4 + i), "Sunken " + width,
                    plate(borderOf(kWidths[i]), G_BORDER_SUNKEN));
     }
-    drawFigure(handle, grid.figure(8), "WITH A FRAME", plate(borderOf(6, kInk), G_BORDER_RAISED));
-    drawFigure(handle, grid.figure(9), "NESTED", nested);
-    drawFigure(handle, grid.figure(10), "KEYS", keys);
-    drawFigure(handle, grid.figure(11), "PATTERNED", patterned);
+    drawFigure(handle, grid.figure(8), "With a frame", plate(borderOf(6, kInk), G_BORDER_RAISED));
+    drawFigure(handle, grid.figure(9), "Nested", nested);
+    drawFigure(handle, grid.figure(10), "Keys", keys);
+    drawFigure(handle, grid.figure(11), "Patterned", patterned);
 }
 
 } // namespace gallery

@@ -170,18 +170,18 @@ auto detail(const GRect& part) {
 
 void drawClippingFigures(GDrawHandle* handle) {
     const Grid grid(4, 3);
-    drawFigure(handle, grid.figure(0), "A CLIP RECTANGLE", replaced);
-    drawFigure(handle, grid.figure(1), "NARROWED", narrowed);
-    drawFigure(handle, grid.figure(2), "PUSHED AND POPPED", stacked);
-    drawFigure(handle, grid.figure(3), "FROM FAR OUTSIDE", farOutside);
-    drawFigure(handle, grid.figure(4), "LOCAL ORIGINS", origins);
-    drawFigure(handle, grid.figure(5), "FOUR WINDOWS", scrolled);
-    drawFigure(handle, grid.figure(6), "A DETAIL IN UNITS", detail(edges(120, 420, 660, 844)));
-    drawFigure(handle, grid.figure(7), "A STREET", street);
-    drawFigure(handle, grid.figure(8), "UNITS ON 99 x 99", houseIn(99, 99));
-    drawFigure(handle, grid.figure(9), "UNITS ON 126 x 50", houseIn(126, 50));
-    drawFigure(handle, grid.figure(10), "UNITS ON 40 x 99", houseIn(40, 99));
-    drawFigure(handle, grid.figure(11), "UNITS ON 126 x 99", houseIn(126, 99));
+    drawFigure(handle, grid.figure(0), "A clip rectangle", replaced);
+    drawFigure(handle, grid.figure(1), "Narrowed", narrowed);
+    drawFigure(handle, grid.figure(2), "Pushed and popped", stacked);
+    drawFigure(handle, grid.figure(3), "From far outside", farOutside);
+    drawFigure(handle, grid.figure(4), "Local origins", origins);
+    drawFigure(handle, grid.figure(5), "Four windows", scrolled);
+    drawFigure(handle, grid.figure(6), "A detail in units", detail(edges(120, 420, 660, 844)));
+    drawFigure(handle, grid.figure(7), "A street", street);
+    drawFigure(handle, grid.figure(8), "Units on 99 x 99", houseIn(99, 99));
+    drawFigure(handle, grid.figure(9), "Units on 126 x 50", houseIn(126, 50));
+    drawFigure(handle, grid.figure(10), "Units on 40 x 99", houseIn(40, 99));
+    drawFigure(handle, grid.figure(11), "Units on 126 x 99", houseIn(126, 99));
 }
 
 } // namespace gallery

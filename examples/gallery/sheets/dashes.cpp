@@ -21,11 +21,11 @@ void drawTable(GDrawHandle* handle) {
         const GRect cell = columns.figure(column);
         const int pen = kPens[column];
         resetState(handle);
-        drawText(handle, cell.left + 24, kTableTop, "PEN " + std::to_string(pen), kGrey);
+        drawLabel(handle, cell.left + 24, kTableTop - 2, "Pen " + std::to_string(pen), kGrey);
         for (int dash = 1; dash <= G_DASH_COUNT; ++dash) {
             const int y = kTableTop + 4 + dash * kRowHeight;
             setPen(handle, kInk);
-            drawText(handle, cell.left, y - capHeight(1) / 2, std::to_string(dash), kGrey);
+            drawLabel(handle, cell.left, y - kSmallLabel / 2, std::to_string(dash), kGrey);
             setPen(handle, kInk, pen, dash);
             drawLine(handle, cell.left + 24, y, cell.right, y);
         }
@@ -83,9 +83,9 @@ void frames(GDrawHandle* handle, const GRect& figure) {
 void drawDashFigures(GDrawHandle* handle) {
     drawTable(handle);
     const Grid grid(3, 1, edges(kContent.left, kFiguresTop, kContent.right, kContent.bottom));
-    drawFigure(handle, grid.figure(0), "EVERY ANGLE", everyAngle);
-    drawFigure(handle, grid.figure(1), "CARRIED ON, STARTED ANEW", carriedAndRestarted);
-    drawFigure(handle, grid.figure(2), "FRAMES", frames);
+    drawFigure(handle, grid.figure(0), "Every angle", everyAngle);
+    drawFigure(handle, grid.figure(1), "Carried on, started anew", carriedAndRestarted);
+    drawFigure(handle, grid.figure(2), "Frames", frames);
 }
 
 } // namespace gallery

@@ -24,5 +24,7 @@ void drawModeFigures(GDrawHandle* handle);
 void drawFormatFigures(GDrawHandle* handle);
 void drawClippingFigures(GDrawHandle* handle);
 void drawTransferFigures(GDrawHandle* handle);
+void drawTextFigures(GDrawHandle* handle);
+void drawCaptionFigures(GDrawHandle* handle);
 
 } // namespace gallery

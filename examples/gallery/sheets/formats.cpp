@@ -116,14 +116,14 @@ void drawFormatFigures(GDrawHandle* handle) {
         const char* name;
         GVram format;
     };
-    const Format formats[] = {{"24 BITS", format24()},
-                              {"16 BITS, 5-6-5", format565()},
-                              {"16 BITS, 5-5-5", format555()},
-                              {"8 BITS, 3-3-2", format8()}};
+    const Format formats[] = {{"24 bits", format24()},
+                              {"16 bits, 5-6-5", format565()},
+                              {"16 bits, 5-5-5", format555()},
+                              {"8 bits, 3-3-2", format8()}};
     PaletteColors palettes[] = {paletteOf(kEvening), paletteOf(kDay), paletteOf(kNight),
                                 paletteOf(kPrint)};
-    constexpr const char* kPaletteNames[] = {"PALETTE: EVENING", "PALETTE: DAY", "PALETTE: NIGHT",
-                                             "PALETTE: PRINT"};
+    constexpr const char* kPaletteNames[] = {"Palette: evening", "Palette: day", "Palette: night",
+                                             "Palette: print"};
     const auto evening = [](GDrawHandle* to, const GRect& whole) {
         landscape(to, whole, kEvening);
     };

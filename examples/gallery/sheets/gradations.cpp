@@ -20,14 +20,14 @@ struct Example {
 /// The lead of a downward gradation takes the low 16 bits of the start colour as they are: white
 /// and black come out as such.
 constexpr Example kExamples[] = {
-    {"DOWN", {G_GRADATION_DOWN, kBlue, kSand, 0, 256}},
-    {"ACROSS", {G_GRADATION_ACROSS, kBlue, kSand, 0, 256}},
-    {"DOWN, LEAD 40", {G_GRADATION_DOWN, kWhite, kRed, 40, 256}},
-    {"ACROSS, LEAD 40", {G_GRADATION_ACROSS, kWhite, kRed, 40, 256}},
-    {"2 STEPS", {G_GRADATION_ACROSS, kInk, kGold, 0, 2}},
-    {"4 STEPS", {G_GRADATION_ACROSS, kInk, kGold, 0, 4}},
-    {"8 STEPS", {G_GRADATION_ACROSS, kInk, kGold, 0, 8}},
-    {"16 STEPS", {G_GRADATION_ACROSS, kInk, kGold, 0, 16}},
+    {"Down", {G_GRADATION_DOWN, kBlue, kSand, 0, 256}},
+    {"Across", {G_GRADATION_ACROSS, kBlue, kSand, 0, 256}},
+    {"Down, lead 40", {G_GRADATION_DOWN, kWhite, kRed, 40, 256}},
+    {"Across, lead 40", {G_GRADATION_ACROSS, kWhite, kRed, 40, 256}},
+    {"2 steps", {G_GRADATION_ACROSS, kInk, kGold, 0, 2}},
+    {"4 steps", {G_GRADATION_ACROSS, kInk, kGold, 0, 4}},
+    {"8 steps", {G_GRADATION_ACROSS, kInk, kGold, 0, 8}},
+    {"16 steps", {G_GRADATION_ACROSS, kInk, kGold, 0, 16}},
 };
 
 void drawGradation(GDrawHandle* handle, const GRect& rect, const GGradationInfo& info) {
@@ -118,10 +118,10 @@ void drawGradationFigures(GDrawHandle* handle) {
                        drawGradation(to, whole, example.info);
                    }));
     }
-    drawFigure(handle, grid.figure(place++), "CLIPPED", on555(clipped));
-    drawFigure(handle, grid.figure(place++), "A BAR", on555(bar));
-    drawFigure(handle, grid.figure(place++), "A BALL", on555(ball));
-    drawFigure(handle, grid.figure(place++), "BEADS", on555(beads));
+    drawFigure(handle, grid.figure(place++), "Clipped", on555(clipped));
+    drawFigure(handle, grid.figure(place++), "A bar", on555(bar));
+    drawFigure(handle, grid.figure(place++), "A ball", on555(ball));
+    drawFigure(handle, grid.figure(place++), "Beads", on555(beads));
 }
 
 } // namespace gallery

@@ -42,17 +42,17 @@ void drawRow(GDrawHandle* handle, const Grid& grid, int row, int join, const cha
         };
     };
     drawFigure(handle, grid.figure(row * 3), name, with(chain));
-    drawFigure(handle, grid.figure(row * 3 + 1), "A POLYGON", with(triangle));
-    drawFigure(handle, grid.figure(row * 3 + 2), "A RECTANGLE", with(rectangle));
+    drawFigure(handle, grid.figure(row * 3 + 1), "A polygon", with(triangle));
+    drawFigure(handle, grid.figure(row * 3 + 2), "A rectangle", with(rectangle));
 }
 
 } // namespace
 
 void drawJoinFigures(GDrawHandle* handle) {
     const Grid grid(3, 3);
-    drawRow(handle, grid, 0, G_JOIN_NONE, "NO JOIN");
-    drawRow(handle, grid, 1, G_JOIN_BEVEL, "BEVEL");
-    drawRow(handle, grid, 2, G_JOIN_ROUND, "ROUND");
+    drawRow(handle, grid, 0, G_JOIN_NONE, "No join");
+    drawRow(handle, grid, 1, G_JOIN_BEVEL, "Bevel");
+    drawRow(handle, grid, 2, G_JOIN_ROUND, "Round");
 }
 
 } // namespace gallery

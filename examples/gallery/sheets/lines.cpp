@@ -101,12 +101,12 @@ void colours(GDrawHandle* handle, const GRect& figure) {
 
 void drawLineFigures(GDrawHandle* handle) {
     const Grid grid(3, 2);
-    drawFigure(handle, grid.figure(0), "EVERY ANGLE", everyAngle);
-    drawFigure(handle, grid.figure(1), "LEVEL AND UPRIGHT", ruled);
-    drawFigure(handle, grid.figure(2), "AN ENVELOPE OF LINES", envelope);
-    drawFigure(handle, grid.figure(3), "A CHAIN OF 180 LINES", polyline);
-    drawFigure(handle, grid.figure(4), "600 SINGLE PIXELS", pixels);
-    drawFigure(handle, grid.figure(5), "COLOURS", colours);
+    drawFigure(handle, grid.figure(0), "Every angle", everyAngle);
+    drawFigure(handle, grid.figure(1), "Level and upright", ruled);
+    drawFigure(handle, grid.figure(2), "An envelope of lines", envelope);
+    drawFigure(handle, grid.figure(3), "A chain of 180 lines", polyline);
+    drawFigure(handle, grid.figure(4), "600 single pixels", pixels);
+    drawFigure(handle, grid.figure(5), "Colours", colours);
 }
 
 } // namespace gallery

@@ -70,8 +70,8 @@ void drawModeFigures(GDrawHandle* handle) {
             return [=](GDrawHandle* to, const GRect& figure) { draw(to, figure, mode); };
         };
         drawFigure(handle, grid.figure(mode), name, in(channels));
-        drawFigure(handle, grid.figure(4 + mode), name + ", PATTERN", in(pattern));
-        drawFigure(handle, grid.figure(8 + mode), name + ", STAR", in(star));
+        drawFigure(handle, grid.figure(4 + mode), name + ", pattern", in(pattern));
+        drawFigure(handle, grid.figure(8 + mode), name + ", star", in(star));
     }
 }
 

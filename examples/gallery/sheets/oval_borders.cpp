@@ -62,14 +62,14 @@ void drawOvalBorderFigures(GDrawHandle* handle) {
     const Grid grid(4, 3);
     for (int i = 0; i < 4; ++i) {
         const std::string width = std::to_string(kWidths[i]);
-        drawFigure(handle, grid.figure(i), "RAISED " + width, ring(borderOf(kWidths[i]), false));
-        drawFigure(handle, grid.figure(4 + i), "PRESSED " + width,
+        drawFigure(handle, grid.figure(i), "Raised " + width, ring(borderOf(kWidths[i]), false));
+        drawFigure(handle, grid.figure(4 + i), "Pressed " + width,
                    ring(borderOf(kWidths[i]), true));
     }
-    drawFigure(handle, grid.figure(8), "WITH A FRAME", ring(borderOf(5, kInk), false));
-    drawFigure(handle, grid.figure(9), "A WIDER ONE", ring(borderOf(14, kInk), false));
-    drawFigure(handle, grid.figure(10), "NESTED", nested);
-    drawFigure(handle, grid.figure(11), "BUTTONS", buttons);
+    drawFigure(handle, grid.figure(8), "With a frame", ring(borderOf(5, kInk), false));
+    drawFigure(handle, grid.figure(9), "A wider one", ring(borderOf(14, kInk), false));
+    drawFigure(handle, grid.figure(10), "Nested", nested);
+    drawFigure(handle, grid.figure(11), "Buttons", buttons);
 }
 
 } // namespace gallery

@@ -17,10 +17,10 @@ struct Style {
 };
 
 constexpr Style kStyles[] = {
-    {"PEN ONLY", G_FILL_NONE, 1, 1}, {"BACK COLOUR", G_FILL_BACK, 1, 1},
-    {"PATTERN", kCheckered, 1, 1},   {"NO PEN", G_FILL_FORE, 0, 0},
-    {"PEN 2", G_FILL_BACK, 2, 2},    {"PEN 5", G_FILL_BACK, 5, 5},
-    {"PEN 12", G_FILL_BACK, 12, 12}, {"PEN 9 x 2", G_FILL_BACK, 9, 2},
+    {"Pen only", G_FILL_NONE, 1, 1}, {"Back colour", G_FILL_BACK, 1, 1},
+    {"Pattern", kCheckered, 1, 1},   {"No pen", G_FILL_FORE, 0, 0},
+    {"Pen 2", G_FILL_BACK, 2, 2},    {"Pen 5", G_FILL_BACK, 5, 5},
+    {"Pen 12", G_FILL_BACK, 12, 12}, {"Pen 9 x 2", G_FILL_BACK, 9, 2},
 };
 
 void drawStyled(GDrawHandle* handle, const GRect& figure, const Style& style) {
@@ -93,10 +93,10 @@ void drawOvalFigures(GDrawHandle* handle) {
         drawFigure(handle, grid.figure(place++), style.caption,
                    [&](GDrawHandle* to, const GRect& figure) { drawStyled(to, figure, style); });
     }
-    drawFigure(handle, grid.figure(place++), "FROM ONE PIXEL", sizes);
-    drawFigure(handle, grid.figure(place++), "FLATTENED", flattened);
-    drawFigure(handle, grid.figure(place++), "PENS FROM 1", nested);
-    drawFigure(handle, grid.figure(place++), "EXCLUSIVE OR", crossing);
+    drawFigure(handle, grid.figure(place++), "From one pixel", sizes);
+    drawFigure(handle, grid.figure(place++), "Flattened", flattened);
+    drawFigure(handle, grid.figure(place++), "Pens from 1", nested);
+    drawFigure(handle, grid.figure(place++), "Exclusive or", crossing);
 }
 
 } // namespace gallery

@@ -20,8 +20,8 @@ void drawPatternFigures(GDrawHandle* handle) {
     for (; place < G_FILL_PATTERN_COUNT; ++place) {
         drawFigure(handle, grid.figure(place), std::to_string(place), filled(place));
     }
-    drawFigure(handle, grid.figure(place++), "FORE", filled(G_FILL_FORE));
-    drawFigure(handle, grid.figure(place++), "BACK", filled(G_FILL_BACK));
+    drawFigure(handle, grid.figure(place++), "Fore", filled(G_FILL_FORE));
+    drawFigure(handle, grid.figure(place++), "Back", filled(G_FILL_BACK));
 }
 
 } // namespace gallery

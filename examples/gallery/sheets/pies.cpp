@@ -67,18 +67,18 @@ void fan(GDrawHandle* handle, const GRect& figure) {
 
 void drawPieFigures(GDrawHandle* handle) {
     const Grid grid(4, 3);
-    drawFigure(handle, grid.figure(0), "PEN ONLY", sector(0, 900, G_FILL_NONE, 1));
-    drawFigure(handle, grid.figure(1), "BACK COLOUR", sector(450, 2250, G_FILL_BACK, 1));
-    drawFigure(handle, grid.figure(2), "PATTERN", sector(600, 3000, kCheckered, 1));
-    drawFigure(handle, grid.figure(3), "NO PEN", sector(3000, 600, G_FILL_FORE, 0));
-    drawFigure(handle, grid.figure(4), "PEN 3", sector(600, 3000, G_FILL_BACK, 3));
-    drawFigure(handle, grid.figure(5), "PEN 8", sector(600, 3000, G_FILL_BACK, 8));
-    drawFigure(handle, grid.figure(6), "A NARROW ONE", sector(300, 420, G_FILL_BACK, 1));
-    drawFigure(handle, grid.figure(7), "ALMOST ALL", sector(20, 0, G_FILL_BACK, 1));
-    drawFigure(handle, grid.figure(8), "SIDE BY SIDE", chart(false));
-    drawFigure(handle, grid.figure(9), "WITH OUTLINES", chart(true));
-    drawFigure(handle, grid.figure(10), "DRAWN OUT", drawnOut);
-    drawFigure(handle, grid.figure(11), "36 BY EXCLUSIVE OR", fan);
+    drawFigure(handle, grid.figure(0), "Pen only", sector(0, 900, G_FILL_NONE, 1));
+    drawFigure(handle, grid.figure(1), "Back colour", sector(450, 2250, G_FILL_BACK, 1));
+    drawFigure(handle, grid.figure(2), "Pattern", sector(600, 3000, kCheckered, 1));
+    drawFigure(handle, grid.figure(3), "No pen", sector(3000, 600, G_FILL_FORE, 0));
+    drawFigure(handle, grid.figure(4), "Pen 3", sector(600, 3000, G_FILL_BACK, 3));
+    drawFigure(handle, grid.figure(5), "Pen 8", sector(600, 3000, G_FILL_BACK, 8));
+    drawFigure(handle, grid.figure(6), "A narrow one", sector(300, 420, G_FILL_BACK, 1));
+    drawFigure(handle, grid.figure(7), "Almost all", sector(20, 0, G_FILL_BACK, 1));
+    drawFigure(handle, grid.figure(8), "Side by side", chart(false));
+    drawFigure(handle, grid.figure(9), "With outlines", chart(true));
+    drawFigure(handle, grid.figure(10), "Drawn out", drawnOut);
+    drawFigure(handle, grid.figure(11), "36 by exclusive or", fan);
 }
 
 } // namespace gallery

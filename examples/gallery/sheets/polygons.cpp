@@ -132,18 +132,18 @@ auto framed(int pen, int dash, int join) {
 
 void drawPolygonFigures(GDrawHandle* handle) {
     const Grid grid(4, 3);
-    drawFigure(handle, grid.figure(0), "5 POINTS, EVEN-ODD", pentagram);
-    drawFigure(handle, grid.figure(1), "7 POINTS, PATTERN", heptagram);
-    drawFigure(handle, grid.figure(2), "31 POINTS", rosette);
-    drawFigure(handle, grid.figure(3), "CROSSING", bowTie);
-    drawFigure(handle, grid.figure(4), "A RING", ring);
-    drawFigure(handle, grid.figure(5), "48 POINTS", gear);
-    drawFigure(handle, grid.figure(6), "A COMB", comb);
-    drawFigure(handle, grid.figure(7), "TABLE EDGES", vase);
-    drawFigure(handle, grid.figure(8), "PEN 1", framed(1, 0, G_JOIN_NONE));
-    drawFigure(handle, grid.figure(9), "PEN 7, BEVEL", framed(7, 0, G_JOIN_BEVEL));
-    drawFigure(handle, grid.figure(10), "PEN 7, ROUND", framed(7, 0, G_JOIN_ROUND));
-    drawFigure(handle, grid.figure(11), "PEN 3, DASH 3", framed(3, 3, G_JOIN_NONE));
+    drawFigure(handle, grid.figure(0), "5 points, even-odd", pentagram);
+    drawFigure(handle, grid.figure(1), "7 points, pattern", heptagram);
+    drawFigure(handle, grid.figure(2), "31 points", rosette);
+    drawFigure(handle, grid.figure(3), "Crossing", bowTie);
+    drawFigure(handle, grid.figure(4), "A ring", ring);
+    drawFigure(handle, grid.figure(5), "48 points", gear);
+    drawFigure(handle, grid.figure(6), "A comb", comb);
+    drawFigure(handle, grid.figure(7), "Table edges", vase);
+    drawFigure(handle, grid.figure(8), "Pen 1", framed(1, 0, G_JOIN_NONE));
+    drawFigure(handle, grid.figure(9), "Pen 7, bevel", framed(7, 0, G_JOIN_BEVEL));
+    drawFigure(handle, grid.figure(10), "Pen 7, round", framed(7, 0, G_JOIN_ROUND));
+    drawFigure(handle, grid.figure(11), "Pen 3, dash 3", framed(3, 3, G_JOIN_NONE));
 }
 
 } // namespace gallery

@@ -18,16 +18,16 @@ struct Style {
 };
 
 constexpr Style kStyles[] = {
-    {"PEN ONLY", G_FILL_NONE, 1, 0, G_JOIN_NONE},
-    {"BACK COLOUR", G_FILL_BACK, 1, 0, G_JOIN_NONE},
-    {"FORE COLOUR", G_FILL_FORE, 1, 0, G_JOIN_NONE},
-    {"PATTERN", kCheckered, 1, 0, G_JOIN_NONE},
-    {"NO PEN", G_FILL_FORE, 0, 0, G_JOIN_NONE},
-    {"PEN 3", G_FILL_BACK, 3, 0, G_JOIN_NONE},
-    {"PEN 9, BEVEL", G_FILL_BACK, 9, 0, G_JOIN_BEVEL},
-    {"PEN 9, ROUND", G_FILL_BACK, 9, 0, G_JOIN_ROUND},
-    {"DASH 3", G_FILL_NONE, 1, 3, G_JOIN_NONE},
-    {"DASH 2, PEN 5", G_FILL_BACK, 5, 2, G_JOIN_NONE},
+    {"Pen only", G_FILL_NONE, 1, 0, G_JOIN_NONE},
+    {"Back colour", G_FILL_BACK, 1, 0, G_JOIN_NONE},
+    {"Fore colour", G_FILL_FORE, 1, 0, G_JOIN_NONE},
+    {"Pattern", kCheckered, 1, 0, G_JOIN_NONE},
+    {"No pen", G_FILL_FORE, 0, 0, G_JOIN_NONE},
+    {"Pen 3", G_FILL_BACK, 3, 0, G_JOIN_NONE},
+    {"Pen 9, bevel", G_FILL_BACK, 9, 0, G_JOIN_BEVEL},
+    {"Pen 9, round", G_FILL_BACK, 9, 0, G_JOIN_ROUND},
+    {"Dash 3", G_FILL_NONE, 1, 3, G_JOIN_NONE},
+    {"Dash 2, pen 5", G_FILL_BACK, 5, 2, G_JOIN_NONE},
 };
 
 void drawStyled(GDrawHandle* handle, const GRect& figure, const Style& style) {
@@ -72,8 +72,8 @@ void drawRectangleFigures(GDrawHandle* handle) {
         drawFigure(handle, grid.figure(place++), style.caption,
                    [&](GDrawHandle* to, const GRect& figure) { drawStyled(to, figure, style); });
     }
-    drawFigure(handle, grid.figure(place++), "NESTED", nested);
-    drawFigure(handle, grid.figure(place++), "FROM ONE PIXEL", sizes);
+    drawFigure(handle, grid.figure(place++), "Nested", nested);
+    drawFigure(handle, grid.figure(place++), "From one pixel", sizes);
 }
 
 } // namespace gallery

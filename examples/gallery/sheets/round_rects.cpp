@@ -48,7 +48,7 @@ void keys(GDrawHandle* handle, const GRect& figure) {
         drawRounded(handle, key, 7, 7);
         const std::string name = std::to_string(i + 1);
         const GPoint centre = centreOf(key);
-        drawText(handle, centre.x - textWidth(name) / 2, centre.y - capHeight(1) / 2, name, kInk);
+        drawCentredLabel(handle, centre, name, kInk);
     }
 }
 
@@ -65,18 +65,18 @@ void nested(GDrawHandle* handle, const GRect& figure) {
 
 void drawRoundRectFigures(GDrawHandle* handle) {
     const Grid grid(4, 3);
-    drawFigure(handle, grid.figure(0), "RADIUS 0", radii(0, 0));
-    drawFigure(handle, grid.figure(1), "RADIUS 3", radii(3, 3));
-    drawFigure(handle, grid.figure(2), "RADIUS 12", radii(12, 12));
-    drawFigure(handle, grid.figure(3), "RADII 40 AND 10", radii(40, 10));
-    drawFigure(handle, grid.figure(4), "HALF THE SIZE", radii(1000, 1000));
-    drawFigure(handle, grid.figure(5), "PEN 2", styled(2, G_FILL_BACK));
-    drawFigure(handle, grid.figure(6), "PEN 7", styled(7, G_FILL_NONE));
-    drawFigure(handle, grid.figure(7), "PEN 14", styled(14, G_FILL_BACK));
-    drawFigure(handle, grid.figure(8), "FORE COLOUR", styled(1, G_FILL_FORE));
-    drawFigure(handle, grid.figure(9), "PATTERN", styled(1, kCheckered));
-    drawFigure(handle, grid.figure(10), "KEYS", keys);
-    drawFigure(handle, grid.figure(11), "NESTED", nested);
+    drawFigure(handle, grid.figure(0), "Radius 0", radii(0, 0));
+    drawFigure(handle, grid.figure(1), "Radius 3", radii(3, 3));
+    drawFigure(handle, grid.figure(2), "Radius 12", radii(12, 12));
+    drawFigure(handle, grid.figure(3), "Radii 40 and 10", radii(40, 10));
+    drawFigure(handle, grid.figure(4), "Half the size", radii(1000, 1000));
+    drawFigure(handle, grid.figure(5), "Pen 2", styled(2, G_FILL_BACK));
+    drawFigure(handle, grid.figure(6), "Pen 7", styled(7, G_FILL_NONE));
+    drawFigure(handle, grid.figure(7), "Pen 14", styled(14, G_FILL_BACK));
+    drawFigure(handle, grid.figure(8), "Fore colour", styled(1, G_FILL_FORE));
+    drawFigure(handle, grid.figure(9), "Pattern", styled(1, kCheckered));
+    drawFigure(handle, grid.figure(10), "Keys", keys);
+    drawFigure(handle, grid.figure(11), "Nested", nested);
 }
 
 } // namespace gallery

@@ -161,14 +161,14 @@ void drawTransferFigures(GDrawHandle* handle) {
     drawFigure(handle, grid.figure(1), "AND", combined(G_MODE_AND));
     drawFigure(handle, grid.figure(2), "OR", combined(G_MODE_OR));
     drawFigure(handle, grid.figure(3), "XOR", combined(G_MODE_XOR));
-    drawFigure(handle, grid.figure(4), "AND A MASK, OR A GEM", masked);
-    drawFigure(handle, grid.figure(5), "DOUBLED TILES", tiled);
-    drawFigure(handle, grid.figure(6), "OVERLAPPING", overlapping);
-    drawFigure(handle, grid.figure(7), "CLIPPED", cut);
-    drawFigure(handle, grid.figure(8), "BY WAY OF 24 BITS", through(format24()));
-    drawFigure(handle, grid.figure(9), "BY WAY OF 5-6-5", through(format565()));
-    drawFigure(handle, grid.figure(10), "BY WAY OF 5-5-5", through(format555()));
-    drawFigure(handle, grid.figure(11), "BY WAY OF 3-3-2", through(format8()));
+    drawFigure(handle, grid.figure(4), "AND a mask, OR a gem", masked);
+    drawFigure(handle, grid.figure(5), "Doubled tiles", tiled);
+    drawFigure(handle, grid.figure(6), "Overlapping", overlapping);
+    drawFigure(handle, grid.figure(7), "Clipped", cut);
+    drawFigure(handle, grid.figure(8), "By way of 24 bits", through(format24()));
+    drawFigure(handle, grid.figure(9), "By way of 5-6-5", through(format565()));
+    drawFigure(handle, grid.figure(10), "By way of 5-5-5", through(format555()));
+    drawFigure(handle, grid.figure(11), "By way of 3-3-2", through(format8()));
 }
 
 } // namespace gallery

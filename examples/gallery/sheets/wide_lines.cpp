@@ -83,12 +83,12 @@ void drawWideLineFigures(GDrawHandle* handle) {
     const auto fanOf = [](int pen, int step) {
         return [=](GDrawHandle* to, const GRect& figure) { fan(to, figure, pen, step); };
     };
-    drawFigure(handle, grid.figure(0), "PENS 1 TO 9", levelAndUpright);
-    drawFigure(handle, grid.figure(1), "PENS 1 TO 9, OBLIQUE", oblique);
-    drawFigure(handle, grid.figure(2), "PEN 2", fanOf(2, 75));
-    drawFigure(handle, grid.figure(3), "PEN 5", fanOf(5, 150));
-    drawFigure(handle, grid.figure(4), "PEN 8", fanOf(8, 225));
-    drawFigure(handle, grid.figure(5), "A NIB OF 9 x 2", nib);
+    drawFigure(handle, grid.figure(0), "Pens 1 to 9", levelAndUpright);
+    drawFigure(handle, grid.figure(1), "Pens 1 to 9, oblique", oblique);
+    drawFigure(handle, grid.figure(2), "Pen 2", fanOf(2, 75));
+    drawFigure(handle, grid.figure(3), "Pen 5", fanOf(5, 150));
+    drawFigure(handle, grid.figure(4), "Pen 8", fanOf(8, 225));
+    drawFigure(handle, grid.figure(5), "A nib of 9 x 2", nib);
 }
 
 } // namespace gallery
