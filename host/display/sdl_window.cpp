@@ -24,8 +24,10 @@ bool startVideo(VideoDriver driver) {
     SDL_SetHint(SDL_HINT_VIDEO_ALLOW_SCREENSAVER, "1");
     SDL_SetHint(SDL_HINT_VIDEODRIVER, serverOnly ? "x11,wayland" : nullptr);
     // Copying rectangles needs no graphics processor, whose driver takes longer to load than the
-    // whole program. A variable of the hint's name chooses another one.
+    // whole program. A variable of the hint's name chooses another one. Without the second hint the
+    // software renderer would show its picture through that driver all the same.
     SDL_SetHint(SDL_HINT_RENDER_DRIVER, "software");
+    SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
     // The first finger on a touch screen is the left button.
     SDL_SetHint(SDL_HINT_TOUCH_MOUSE_EVENTS, "1");
     // A press counts, also the one by which the window gets the keyboard.
