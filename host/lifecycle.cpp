@@ -59,4 +59,8 @@ GWord stopPlatform() {
     return kept;
 }
 
+const char16_t* describePlatform() {
+    return u"gpi " GPI_VERSION;
+}
+
 } // namespace gpi

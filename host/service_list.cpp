@@ -84,6 +84,10 @@ GPIFunction serviceOf(int32_t number) {
         offer<GPIMultiByteToUnicode>(GPI_SERVICE_MULTI_BYTE_TO_UNICODE, multiByteToUnicode),
         offer<GPIIsLeadByte>(GPI_SERVICE_IS_LEAD_BYTE, isLeadByteOf),
 
+        offer<GPIDescribe>(GPI_SERVICE_DESCRIBE, describePlatform),
+        offer<GPICountSurfaces>(GPI_SERVICE_COUNT_SURFACES, countSurfaces),
+        offer<GPICountSignals>(GPI_SERVICE_COUNT_SIGNALS, countSignals),
+
         offer<GPIStartEventLock>(GPI_SERVICE_START_EVENT_LOCK, startEventLock),
         offer<GPIStartEventSignal>(GPI_SERVICE_START_EVENT_SIGNAL, startEventSignal),
         offer<GPISignalEvent>(GPI_SERVICE_SIGNAL_EVENT, signalEvent),

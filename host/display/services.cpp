@@ -48,6 +48,10 @@ int32_t releaseSurface(GDrawHandle* /*handle*/, GVram* surface) {
     return onDisplay([&](Display& display) { return display.pageOf(surface) != nullptr; });
 }
 
+int32_t countSurfaces() {
+    return screen() != nullptr ? kPageCount : 0;
+}
+
 int32_t setPixel(GDrawHandle* /*handle*/, GVram* surface, int16_t x, int16_t y, uint32_t pixel,
                  int32_t mode) {
     return drawing([&](DeviceDrawing& draw) { return draw.setPixel(surface, x, y, pixel, mode); });

@@ -1,4 +1,4 @@
-// Displays: services 3 to 11, 43, 55, 56, 58 to 60, 67 to 70 and 119.
+// Displays: services 3 to 11, 24, 43, 55, 56, 58 to 60, 67 to 70 and 119.
 #pragma once
 
 #include <quarlo/surface.h>
@@ -7,6 +7,7 @@ namespace gpi {
 
 GVram* getSurface(GDrawHandle* handle, int32_t number);
 int32_t releaseSurface(GDrawHandle* handle, GVram* surface);
+int32_t countSurfaces();
 
 int32_t setPixel(GDrawHandle* handle, GVram* surface, int16_t x, int16_t y, uint32_t pixel,
                  int32_t mode);

@@ -3,6 +3,8 @@
 #include "guard.h"
 #include "platform.h"
 
+#include <algorithm>
+
 namespace gpi {
 namespace {
 
@@ -52,6 +54,13 @@ int32_t signalEvent() {
 
 int32_t eventTaken() {
     return 1; // waiting has counted it already
+}
+
+int32_t countSignals() {
+    return guarded(-1, [] {
+        const uint64_t count = platform().eventSignal.count();
+        return static_cast<int32_t>(std::min<uint64_t>(count, INT32_MAX));
+    });
 }
 
 int32_t waitEvent(int32_t wait) {

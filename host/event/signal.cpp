@@ -38,6 +38,11 @@ Wake Signal::wait(const Deadline& deadline) {
     return Wake::Interrupted;
 }
 
+uint64_t Signal::count() const {
+    const std::lock_guard lock(mutex_);
+    return count_;
+}
+
 void Signal::shutDown() {
     {
         const std::lock_guard lock(mutex_);

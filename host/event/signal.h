@@ -36,11 +36,14 @@ class Signal {
 
     Wake wait(const Deadline& deadline);
 
+    /// Signals that nobody has waited for yet.
+    uint64_t count() const;
+
     /// Ends all waits, present and future, until the next start.
     void shutDown();
 
   private:
-    std::mutex mutex_;
+    mutable std::mutex mutex_;
     std::condition_variable changed_;
     uint64_t count_ = 0;
     bool running_ = true;

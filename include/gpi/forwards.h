@@ -36,7 +36,7 @@ typedef int32_t (*GPIExecute)(const char16_t* program, const char16_t* arguments
 /** Service 118: as GAppExit(). */
 typedef int32_t (*GPIExit)(int32_t number);
 
-/** Service 78, required: as GUBSearch(). */
+/** Service 78, expected: as GUBSearch(). */
 typedef void* (*GPISearch)(const void* key, const void* elements, uint32_t count, uint32_t size,
                            GUBCompare compare);
 

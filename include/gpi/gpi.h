@@ -100,10 +100,10 @@ enum {
     GPI_SERVICE_IS_LEAD_BYTE = 79,
     GPI_SERVICE_SET_GB_FONT_FLAG = 207,
 
-    /* Bound by the library, which has no use for them. */
-    GPI_SERVICE_UNUSED_23 = 23,
-    GPI_SERVICE_UNUSED_24 = 24,
-    GPI_SERVICE_UNUSED_30 = 30,
+    /* For tools: the library binds these and calls none of them. */
+    GPI_SERVICE_DESCRIBE = 23,
+    GPI_SERVICE_COUNT_SURFACES = 24,
+    GPI_SERVICE_COUNT_SIGNALS = 30,
 
     /* Events and time. */
     GPI_SERVICE_START_EVENT_SIGNAL = 26,

@@ -4,8 +4,9 @@
  * displays, fonts and text, events and time, memory. forwards.h has the others.
  *
  * "As X()" means: the service has the signature and the contract of that function, which hands its
- * arguments on unchanged and in order. "Required" marks the services that every platform must have.
- * No service keeps a pointer that it is handed.
+ * arguments on unchanged and in order. Without a service marked "needed" nothing starts, nothing is
+ * drawn or nothing shows; one marked "expected" is called by its function without asking whether it
+ * is there. No service keeps a pointer that it is handed.
  */
 #ifndef GPI_SERVICES_H
 #define GPI_SERVICES_H
@@ -18,14 +19,14 @@ QUARLO_BEGIN
 /* Start and stop. */
 
 /**
- * Service 1, required: starts the platform.
+ * Service 1, needed: starts the platform.
  *
  * @param argument 0, or the address of a NUL-terminated UTF-8 path: the platform's configuration
  * @return 1; 0 when it cannot start
  */
 typedef GWord (*GPIStart)(GWord argument);
 
-/** Service 2, required: stops the platform and gives everything back. @return 1 */
+/** Service 2, expected: stops the platform and gives everything back. @return 1 */
 typedef GWord (*GPIStop)(void);
 
 /**
@@ -40,7 +41,7 @@ typedef GWord (*GPIStopFirst)(void);
 /* Displays. */
 
 /**
- * Service 3, required: hands out a device surface.
+ * Service 3, needed: hands out a device surface.
  *
  * The record stays the platform's. Its `id` is the number, never -1, and its `drawable` points to a
  * rectangle that lives as long, at first the whole surface; the library changes that rectangle and
@@ -59,7 +60,7 @@ typedef GVram* (*GPIGetSurface)(GDrawHandle* handle, int32_t number);
 typedef int32_t (*GPIReleaseSurface)(GDrawHandle* handle, GVram* surface);
 
 /**
- * Service 5, required: sets a pixel of a device surface (GPixelOps::setPixel). Coordinates are
+ * Service 5, needed: sets a pixel of a device surface (GPixelOps::setPixel). Coordinates are
  * clipped already, here and in the six services that follow. Without it whatever is drawn pixel by
  * pixel is not drawn.
  */
@@ -67,7 +68,7 @@ typedef int32_t (*GPISetPixel)(GDrawHandle* handle, GVram* surface, int16_t x, i
                                uint32_t pixel, int32_t mode);
 
 /**
- * Service 6, required: draws a run of pixels (GPixelOps::span); none for a count below 1. Without
+ * Service 6, needed: draws a run of pixels (GPixelOps::span); none for a count below 1. Without
  * it whatever is drawn by runs is not drawn.
  */
 typedef int32_t (*GPISpan)(GDrawHandle* handle, GVram* surface, int16_t x, int16_t y,
@@ -128,7 +129,7 @@ typedef int32_t (*GPIBlockTransfer)(GDrawHandle* handle, const GVram* source, in
                                     int32_t mode);
 
 /**
- * Service 9, required: shows a rectangle of the display. It may be put off until the next one.
+ * Service 9, needed: shows a rectangle of the display. It may be put off until the next one.
  *
  * @param left column of the surface; the rectangle lies inside it and is not empty
  * @return 1 shown, 0 not
@@ -136,21 +137,21 @@ typedef int32_t (*GPIBlockTransfer)(GDrawHandle* handle, const GVram* source, in
 typedef int32_t (*GPIFlush)(GDrawHandle* handle, int16_t left, int16_t top, int16_t width,
                             int16_t height);
 
-/** Service 58, required: as service 9, at once. */
+/** Service 58, expected: as service 9, at once. */
 typedef int32_t (*GPIFlushForce)(GDrawHandle* handle, int16_t left, int16_t top, int16_t width,
                                  int16_t height);
 
-/** Service 10, required: as GDSetPalette(). @return 1; 0 without such entries or a palette */
+/** Service 10, expected: as GDSetPalette(). @return 1; 0 without such entries or a palette */
 typedef GWord (*GPISetPalette)(GDrawHandle* handle, int32_t first, int32_t count,
                                const uint32_t* colors);
 
-/** Service 11, required: as GDGetPalette(). @return 1; 0 without such entries or a palette */
+/** Service 11, expected: as GDGetPalette(). @return 1; 0 without such entries or a palette */
 typedef GWord (*GPIGetPalette)(GDrawHandle* handle, int32_t first, int32_t count, uint32_t* colors);
 
-/** Service 55, required: as GDSetZoomScale(). */
+/** Service 55, expected: as GDSetZoomScale(). */
 typedef GWord (*GPISetZoomScale)(GDrawHandle* handle, int32_t x, int32_t y);
 
-/** Service 56, required: as GDSetScrollPos(). */
+/** Service 56, expected: as GDSetScrollPos(). */
 typedef GWord (*GPISetScrollPos)(GDrawHandle* handle, int32_t x, int32_t y);
 
 /** Service 59, optional: as GDSetDrawableRegion(); neither argument is null. */
@@ -231,30 +232,38 @@ typedef int32_t (*GPIDrawString)(GDrawHandle* handle, const char16_t* text, int1
 typedef int32_t (*GPIDrawCaptionLine)(GDrawHandle* handle, const char16_t* line, int16_t x,
                                       int16_t y, const GRect* clip);
 
-/** Service 36, required: as GDGetStringLength(). */
+/** Service 36, expected: as GDGetStringLength(). */
 typedef int32_t (*GPIStringLength)(const char16_t* text, int32_t limit);
 
-/** Service 37, required: as GDGetPrevChar(). */
+/** Service 37, expected: as GDGetPrevChar(). */
 typedef const char16_t* (*GPIPreviousChar)(const char16_t* text, const char16_t* position,
                                            uint32_t* character);
 
-/** Service 38, required: as GDGetNextChar(). */
+/** Service 38, expected: as GDGetNextChar(). */
 typedef const char16_t* (*GPINextChar)(const char16_t* position, const char16_t* end,
                                        uint32_t* character);
 
-/** Service 61, required: as GRCUnicodeToMultiByte(). */
+/** Service 61, expected: as GRCUnicodeToMultiByte(). */
 typedef int32_t (*GPIUnicodeToMultiByte)(const char16_t* text, int32_t units, char* out,
                                          int32_t size);
 
-/** Service 62, required: as GRCMultiByteToUnicode(). */
+/** Service 62, expected: as GRCMultiByteToUnicode(). */
 typedef int32_t (*GPIMultiByteToUnicode)(const char* text, int32_t bytes, char16_t* out,
                                          int32_t units);
 
-/** Service 79, required: as GRCIsLeadByte(). */
+/** Service 79, expected: as GRCIsLeadByte(). */
 typedef int32_t (*GPIIsLeadByte)(uint8_t byte, int32_t codePage);
 
-/** Services 23, 24 and 30: bound, and never called. */
-typedef GPIFunction GPIUnused;
+/* For tools: the library binds these services and calls none of them. */
+
+/** Service 23, optional: the platform's name and version. @return NUL-terminated, always the same */
+typedef const char16_t* (*GPIDescribe)(void);
+
+/** Service 24, optional: how many device surfaces service 3 hands out, numbered from 0. */
+typedef int32_t (*GPICountSurfaces)(void);
+
+/** Service 30, optional: how many signals of service 31 nobody has waited for yet. */
+typedef int32_t (*GPICountSignals)(void);
 
 /* Events and time. A missing event service counts as one that succeeded. */
 
@@ -298,16 +307,16 @@ typedef int32_t (*GPIUnlockEvents)(void);
  */
 typedef int32_t (*GPINextMessage)(GMessage* message);
 
-/** Service 27, required: as GESetSystemTime(). */
+/** Service 27, expected: as GESetSystemTime(). */
 typedef int32_t (*GPISetSystemTime)(const GSystemTime* time);
 
 /** Service 28: as GEGetSystemTime(). Without it there are no timers. */
 typedef int32_t (*GPIGetSystemTime)(GSystemTime* time);
 
-/** Service 76, required: as GETime(). */
+/** Service 76, expected: as GETime(). */
 typedef uint32_t (*GPITime)(uint32_t* time);
 
-/** Service 77, required: as GEGmTime(). Its result is ignored. */
+/** Service 77, expected: as GEGmTime(). Its result is ignored. */
 typedef GBrokenDownTime* (*GPIBrokenDownTime)(GBrokenDownTime* out, uint32_t time);
 
 /* Memory spaces. Looked for again on every call while missing; without services 41 and 42 nothing
@@ -319,13 +328,13 @@ typedef int32_t (*GPISetMemorySpace)(int32_t space, GWord limit);
 /** Service 40: as GMDeleteMemorySpace(). */
 typedef int32_t (*GPIDeleteMemorySpace)(int32_t space, GWord flags);
 
-/** Service 41, required: as GMMemoryAlloc(). */
+/** Service 41, needed: as GMMemoryAlloc(). */
 typedef void* (*GPIMemoryAlloc)(int32_t space, uint32_t flags, int32_t size);
 
 /** Service 66: as GMMemoryRealloc(). Asked for by the first call, not at start-up. */
 typedef void* (*GPIMemoryRealloc)(int32_t space, uint32_t flags, void* block, int32_t size);
 
-/** Service 42, required: as GMMemoryFree(). */
+/** Service 42, needed: as GMMemoryFree(). */
 typedef int32_t (*GPIMemoryFree)(int32_t space, uint32_t flags, void* block);
 
 /** Service 57: as GMSetMemoryMode(). */

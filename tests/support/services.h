@@ -41,8 +41,8 @@ using Services = OfferList<
     Offer<37, GPIPreviousChar>, Offer<38, GPINextChar>, Offer<44, GPIDrawString>,
     Offer<61, GPIUnicodeToMultiByte>, Offer<62, GPIMultiByteToUnicode>,
     Offer<75, GPIDrawCaptionLine>, Offer<79, GPIIsLeadByte>, Offer<207, GPISetGBFontFlag>,
-    // Bound by the library, which has no use for them.
-    Offer<23, GPIUnused>, Offer<24, GPIUnused>, Offer<30, GPIUnused>,
+    // For tools.
+    Offer<23, GPIDescribe>, Offer<24, GPICountSurfaces>, Offer<30, GPICountSignals>,
     // Events and time.
     Offer<26, GPIStartEventSignal>, Offer<27, GPISetSystemTime>, Offer<28, GPIGetSystemTime>,
     Offer<29, GPIStartEventLock>, Offer<31, GPISignalEvent>, Offer<32, GPIEventTaken>,
