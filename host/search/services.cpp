@@ -6,7 +6,7 @@ namespace gpi {
 
 void* search(const void* key, const void* elements, uint32_t count, uint32_t size,
              GUBCompare compare) {
-    if (elements == nullptr || compare == nullptr || size == 0) {
+    if (key == nullptr || elements == nullptr || compare == nullptr || size == 0) {
         return nullptr;
     }
     return std::bsearch(key, elements, count, size, compare);

@@ -31,6 +31,9 @@ size_t roomFor(int32_t size) {
 } // namespace
 
 int32_t stringLength(const char16_t* text, int32_t limit) {
+    if (limit < -1) {
+        return 0;
+    }
     int32_t characters = 0;
     for (int32_t at = 0; text != nullptr && (limit < 0 || at < limit) && text[at] != u'\0';
          ++characters) {

@@ -25,7 +25,7 @@ enum {
  * a surrogate without its partner too.
  *
  * @param text the string; null has none
- * @param limit units to look at, at most; -1 for all up to the NUL
+ * @param limit units to look at, at most; -1 for all up to the NUL, other negative numbers for none
  */
 QUARLO_API int32_t GDGetStringLength(const char16_t* text, int32_t limit);
 

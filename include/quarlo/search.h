@@ -20,7 +20,8 @@ typedef int (*GUBCompare)(const void* key, const void* element);
  * @param count its elements
  * @param size bytes of one element
  * @param compare the order that the array is sorted by
- * @return an element equal to the key, of several any; null when there is none
+ * @return an element equal to the key, of several any; null when there is none, or when an argument
+ *     is null
  */
 QUARLO_API void* GUBSearch(const void* key, const void* elements, uint32_t count, uint32_t size,
                            GUBCompare compare);
