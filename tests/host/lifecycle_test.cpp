@@ -120,17 +120,4 @@ TEST(Platform, CountsTheSignalsThatNobodyWaitedFor) {
     EXPECT_EQ(count(), 0);
 }
 
-TEST(ServiceList, HasOneFunctionForEveryNumberItOffers) {
-    for (const int32_t number : {INT32_MIN, -1, 0, 138, 199, 208, INT32_MAX}) {
-        EXPECT_EQ(GPIGetService(number), nullptr) << number;
-    }
-    const int32_t offered[] = {1,  2,  3,  4,  5,  6,  7,  8,  9,  10, 11, 12, 22,
-                               27, 28, 39, 40, 41, 42, 43, 55, 56, 57, 58, 59, 60,
-                               66, 67, 68, 69, 70, 76, 77, 80, 81, 82, 119};
-    for (const int32_t number : offered) {
-        EXPECT_NE(GPIGetService(number), nullptr) << number;
-        EXPECT_EQ(GPIGetService(number), GPIGetService(number));
-    }
-}
-
 } // namespace
