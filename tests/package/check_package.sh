@@ -22,6 +22,9 @@ export QUARLO_DISPLAY=memory
 "$work/consumer/cmake/draw_c"
 "$work/consumer/cmake/draw_cpp"
 
+# The tool finds the platform that was installed with it, and nothing wrong.
+"$prefix/bin/quarlo-doctor" >"$work/doctor.log"
+
 # By pkg-config.
 PKG_CONFIG_PATH=$(dirname "$(find "$prefix" -name quarlo.pc)")
 export PKG_CONFIG_PATH

@@ -161,6 +161,36 @@ int32_t endsTheProcess(const char16_t*, int32_t, char*, int32_t) {
     _exit(3);
 }
 
+GFontRecord* loadsNothing(const char16_t*) {
+    return nullptr;
+}
+
+int32_t findsNothing(GFontRecord*, GGlyphRequest*) {
+    return 0;
+}
+
+/// The glyph as it is, with one field of the answer changed.
+template <auto Change>
+int32_t findsOddGlyph(GFontRecord* font, GGlyphRequest* request) {
+    const int32_t found = sound<GPIGlyph>(GPI_SERVICE_GLYPH)(font, request);
+    Change(*request);
+    return found;
+}
+
+void isBlank(GGlyphRequest& glyph) {
+    static const uint8_t blank[64] = {};
+    glyph.width = glyph.height = 8;
+    glyph.bits = blank;
+}
+
+void hasNoBitmap(GGlyphRequest& glyph) {
+    glyph.bits = nullptr;
+}
+
+void staysWhereItIs(GGlyphRequest& glyph) {
+    glyph.next = glyph.text;
+}
+
 GFile* opensAnything(const char16_t*, uint32_t, int32_t*) {
     static char file;
     return reinterpret_cast<GFile*>(&file);
@@ -212,6 +242,11 @@ const Fault kFaults[] = {
     {"counts-nothing", GPI_SERVICE_STRING_LENGTH, as<GPIStringLength>(countsNothing)},
     {"crashes", GPI_SERVICE_PREVIOUS_CHAR, as<GPIPreviousChar>(crashes)},
     {"ends", GPI_SERVICE_UNICODE_TO_MULTI_BYTE, as<GPIUnicodeToMultiByte>(endsTheProcess)},
+    {"no-font", GPI_SERVICE_LOAD_FONT, as<GPILoadFont>(loadsNothing)},
+    {"no-glyph", GPI_SERVICE_GLYPH, as<GPIGlyph>(findsNothing)},
+    {"blank-glyph", GPI_SERVICE_GLYPH, as<GPIGlyph>(findsOddGlyph<isBlank>)},
+    {"no-bitmap", GPI_SERVICE_GLYPH, as<GPIGlyph>(findsOddGlyph<hasNoBitmap>)},
+    {"no-step", GPI_SERVICE_GLYPH, as<GPIGlyph>(findsOddGlyph<staysWhereItIs>)},
     {"opens-anything", GPI_SERVICE_OPEN_FILE, as<GPIOpenFile>(opensAnything)},
     {"no-fallback", GPI_SERVICE_GET_PROFILE_INT, as<GPIGetProfileInt>(forgetsFallback)},
     {"knows-everything", GPI_SERVICE_GET_NC_SYSTEM_VALUE, as<GPIGetNCSystemValue>(knowsEverything)},

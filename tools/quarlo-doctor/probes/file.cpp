@@ -1,19 +1,15 @@
-// Files: what is asked for is never there, so that nothing is read, written or removed.
-#include "probe.h"
+// Files, paths and JPEG pictures.
+#include "probes/stored_file.h"
 
 #include <string_view>
 
 namespace doctor {
 namespace {
 
-constexpr const char16_t* kMissing = u"quarlo-doctor-has-no-such-file";
-constexpr const char* kTakesNull = "takes no file for an open one";
-constexpr const char* kFindsMissing = "finds a file that there is not";
-
 Complaint opens(const Platform& platform) {
     const auto open = platform.service<GPIOpenFile>(GPI_SERVICE_OPEN_FILE);
     int32_t error = 1;
-    if (open(kMissing, G_OPEN_READ, &error) != nullptr) {
+    if (open(kMissingFile, G_OPEN_READ, &error) != nullptr) {
         return "opens a file that there is not";
     }
     if (error != G_IO_NOT_FOUND) {
@@ -25,69 +21,21 @@ Complaint opens(const Platform& platform) {
     return open(u"../../etc/hostname", G_OPEN_READ, &error) == nullptr ? "" : "leaves its root";
 }
 
-Complaint closes(const Platform& platform) {
-    return platform.service<GPICloseFile>(GPI_SERVICE_CLOSE_FILE)(nullptr) < 0 ? "" : kTakesNull;
-}
-
-Complaint closesLasting(const Platform& platform) {
-    const auto close = platform.service<GPIFlushAndCloseFile>(GPI_SERVICE_FLUSH_AND_CLOSE_FILE);
-    return close(nullptr) < 0 ? "" : kTakesNull;
-}
-
-Complaint reads(const Platform& platform) {
-    char bytes[4] = {};
-    int32_t done = 0;
-    const auto read = platform.service<GPIReadFile>(GPI_SERVICE_READ_FILE);
-    return read(nullptr, bytes, sizeof bytes, &done) < 0 ? "" : kTakesNull;
-}
-
-Complaint writes(const Platform& platform) {
-    const char bytes[4] = {};
-    int32_t done = 0;
-    const auto write = platform.service<GPIWriteFile>(GPI_SERVICE_WRITE_FILE);
-    return write(nullptr, bytes, sizeof bytes, &done) < 0 ? "" : kTakesNull;
-}
-
-Complaint seeks(const Platform& platform) {
-    const auto seek = platform.service<GPISeekFile>(GPI_SERVICE_SEEK_FILE);
-    return seek(nullptr, 0, G_SEEK_START) < 0 ? "" : kTakesNull;
-}
-
-Complaint readsLine(const Platform& platform) {
-    char line[4] = {};
-    const auto read = platform.service<GPIReadLine>(GPI_SERVICE_READ_LINE);
-    return read(nullptr, line, sizeof line) < 0 ? "" : kTakesNull;
-}
-
-Complaint readsByte(const Platform& platform) {
-    return platform.service<GPIReadByte>(GPI_SERVICE_READ_BYTE)(nullptr) < 0 ? "" : kTakesNull;
-}
-
-Complaint renames(const Platform& platform) {
-    const auto rename = platform.service<GPIRenameFile>(GPI_SERVICE_RENAME_FILE);
-    return rename(kMissing, kMissing, 0) < 0 ? "" : kFindsMissing;
-}
-
-Complaint removes(const Platform& platform) {
-    const auto remove = platform.service<GPIRemoveFile>(GPI_SERVICE_REMOVE_FILE);
-    return remove(kMissing, 0) < 0 ? "" : kFindsMissing;
-}
-
 Complaint tellsAccess(const Platform& platform) {
     uint32_t attributes = 0;
     const auto access = platform.service<GPIGetFileAccess>(GPI_SERVICE_GET_FILE_ACCESS);
-    return access(kMissing, 0, &attributes) < 0 ? "" : kFindsMissing;
+    return access(kMissingFile, 0, &attributes) < 0 ? "" : kFindsMissing;
 }
 
 Complaint tellsSize(const Platform& platform) {
     int32_t size = 0;
     const auto tell = platform.service<GPIGetFileSize>(GPI_SERVICE_GET_FILE_SIZE);
-    return tell(kMissing, &size) < 0 && size < 0 ? "" : kFindsMissing;
+    return tell(kMissingFile, &size) < 0 && size < 0 ? "" : kFindsMissing;
 }
 
 Complaint lists(const Platform& platform) {
     const auto list = platform.service<GPIGetDirectory>(GPI_SERVICE_GET_DIRECTORY);
-    return list(kMissing, nullptr, 0) < 0 ? "" : "lists a folder that there is not";
+    return list(kMissingFile, nullptr, 0) < 0 ? "" : "lists a folder that there is not";
 }
 
 Complaint makesPath(const Platform& platform) {
@@ -116,13 +64,13 @@ Complaint splitsPath(const Platform& platform) {
 Complaint tellsJpeg(const Platform& platform) {
     GJpegInfo info{};
     const auto tell = platform.service<GPIGetJpegInfo>(GPI_SERVICE_GET_JPEG_INFO);
-    return tell(kMissing, 1, &info) < 0 ? "" : kFindsMissing;
+    return tell(kMissingFile, 1, &info) < 0 ? "" : kFindsMissing;
 }
 
 Complaint loadsJpeg(const Platform& platform) {
     const auto load = platform.service<GPILoadJpeg>(GPI_SERVICE_LOAD_JPEG);
     GVram surface{};
-    return load(kMissing, 1, &surface) < 0 ? "" : kFindsMissing;
+    return load(kMissingFile, 1, &surface) < 0 ? "" : kFindsMissing;
 }
 
 } // namespace
@@ -130,15 +78,17 @@ Complaint loadsJpeg(const Platform& platform) {
 std::span<const Probe> fileProbes() {
     static const Probe kProbes[] = {
         {GPI_SERVICE_OPEN_FILE, opens, {}},
-        {GPI_SERVICE_CLOSE_FILE, closes, {}},
-        {GPI_SERVICE_FLUSH_AND_CLOSE_FILE, closesLasting, {}},
-        {GPI_SERVICE_READ_FILE, reads, {}},
-        {GPI_SERVICE_WRITE_FILE, writes, {}},
-        {GPI_SERVICE_SEEK_FILE, seeks, {}},
-        {GPI_SERVICE_READ_LINE, readsLine, {}},
-        {GPI_SERVICE_READ_BYTE, readsByte, {}},
-        {GPI_SERVICE_RENAME_FILE, renames, {}},
-        {GPI_SERVICE_REMOVE_FILE, removes, {}},
+        {GPI_SERVICE_CLOSE_FILE, refusesNoFile<GPICloseFile, GPI_SERVICE_CLOSE_FILE>, {}},
+        {GPI_SERVICE_FLUSH_AND_CLOSE_FILE,
+         refusesNoFile<GPIFlushAndCloseFile, GPI_SERVICE_FLUSH_AND_CLOSE_FILE>,
+         {}},
+        {GPI_SERVICE_READ_FILE, refusesNoFile<GPIReadFile, GPI_SERVICE_READ_FILE>, {}},
+        {GPI_SERVICE_WRITE_FILE, refusesNoFile<GPIWriteFile, GPI_SERVICE_WRITE_FILE>, {}},
+        {GPI_SERVICE_SEEK_FILE, refusesNoFile<GPISeekFile, GPI_SERVICE_SEEK_FILE>, {}},
+        {GPI_SERVICE_READ_LINE, refusesNoFile<GPIReadLine, GPI_SERVICE_READ_LINE>, {}},
+        {GPI_SERVICE_READ_BYTE, refusesNoFile<GPIReadByte, GPI_SERVICE_READ_BYTE>, {}},
+        {GPI_SERVICE_RENAME_FILE, renamesNothing<GPI_SERVICE_RENAME_FILE>, {}},
+        {GPI_SERVICE_REMOVE_FILE, removesNothing<GPI_SERVICE_REMOVE_FILE>, {}},
         {GPI_SERVICE_GET_FILE_ACCESS, tellsAccess, {}},
         {GPI_SERVICE_GET_FILE_SIZE, tellsSize, {}},
         {GPI_SERVICE_GET_DIRECTORY, lists, {}},

@@ -20,19 +20,18 @@ GFontRecord* load(const Platform& platform) {
     return font;
 }
 
-Complaint loads(const Platform& platform) {
-    const GFontRecord* const font = load(platform);
-    if (font == nullptr) {
-        return kNoFont;
-    }
+/// A probe of a service that takes a font.
+template <Complaint (*Run)(const Platform& platform, GFontRecord* font)>
+Complaint withFont(const Platform& platform) {
+    GFontRecord* const font = load(platform);
+    return font != nullptr ? Run(platform, font) : kNoFont;
+}
+
+Complaint loads(const Platform&, GFontRecord* font) {
     return font->scale != nullptr ? "" : "gives a font without a scale";
 }
 
-Complaint setsSize(const Platform& platform) {
-    GFontRecord* const font = load(platform);
-    if (font == nullptr) {
-        return kNoFont;
-    }
+Complaint setsSize(const Platform& platform, GFontRecord* font) {
     const auto set = platform.service<GPISetFontSize>(GPI_SERVICE_SET_FONT_SIZE);
     if (set(font, kWidth, kHeight) != 1) {
         return "refuses cells of 8 x 16 pixels";
@@ -40,11 +39,7 @@ Complaint setsSize(const Platform& platform) {
     return set(font, 0, -1) == 0 ? "" : "takes cells of no extent";
 }
 
-Complaint getsSize(const Platform& platform) {
-    GFontRecord* const font = load(platform);
-    if (font == nullptr) {
-        return kNoFont;
-    }
+Complaint getsSize(const Platform& platform, GFontRecord* font) {
     int16_t width = 0;
     int16_t height = 0;
     const auto get = platform.service<GPIGetFontSize>(GPI_SERVICE_GET_FONT_SIZE);
@@ -52,11 +47,7 @@ Complaint getsSize(const Platform& platform) {
     return same ? "" : "does not read what was set";
 }
 
-Complaint getsAttribute(const Platform& platform) {
-    GFontRecord* const font = load(platform);
-    if (font == nullptr) {
-        return kNoFont;
-    }
+Complaint getsAttribute(const Platform& platform, GFontRecord* font) {
     GFontAttribute attribute{};
     const auto get = platform.service<GPIGetFontAttribute>(GPI_SERVICE_GET_FONT_ATTRIBUTE);
     if (get(font, &attribute) != 1) {
@@ -65,11 +56,7 @@ Complaint getsAttribute(const Platform& platform) {
     return attribute.height == kHeight ? "" : "tells another height than was set";
 }
 
-Complaint setsAttribute(const Platform& platform) {
-    GFontRecord* const font = load(platform);
-    if (font == nullptr) {
-        return kNoFont;
-    }
+Complaint setsAttribute(const Platform& platform, GFontRecord* font) {
     GFontAttribute attribute{};
     platform.service<GPIGetFontAttribute>(GPI_SERVICE_GET_FONT_ATTRIBUTE)(font, &attribute);
     attribute.bitsPerPixel = 1;
@@ -77,21 +64,13 @@ Complaint setsAttribute(const Platform& platform) {
     return set(font, &attribute) == 1 ? "" : "refuses glyphs of one bit a pixel";
 }
 
-Complaint setsUserAttribute(const Platform& platform) {
-    GFontRecord* const font = load(platform);
-    if (font == nullptr) {
-        return kNoFont;
-    }
+Complaint setsUserAttribute(const Platform& platform, GFontRecord* font) {
     const GFontUserAttribute attribute{u'?', 0, 77};
     const auto set = platform.service<GPISetFontUserAttribute>(GPI_SERVICE_SET_FONT_USER_ATTRIBUTE);
     return set(font, &attribute) == 1 ? "" : "refuses what a program keeps";
 }
 
-Complaint getsUserAttribute(const Platform& platform) {
-    GFontRecord* const font = load(platform);
-    if (font == nullptr) {
-        return kNoFont;
-    }
+Complaint getsUserAttribute(const Platform& platform, GFontRecord* font) {
     const GFontUserAttribute kept{u'?', 0, 77};
     GFontUserAttribute read{};
     platform.service<GPISetFontUserAttribute>(GPI_SERVICE_SET_FONT_USER_ATTRIBUTE)(font, &kept);
@@ -101,11 +80,7 @@ Complaint getsUserAttribute(const Platform& platform) {
     return same ? "" : "does not read what was set";
 }
 
-Complaint findsGlyph(const Platform& platform) {
-    GFontRecord* const font = load(platform);
-    if (font == nullptr) {
-        return kNoFont;
-    }
+Complaint findsGlyph(const Platform& platform, GFontRecord* font) {
     const char16_t text[] = u"AB";
     GGlyphRequest request{};
     request.text = text;
@@ -135,20 +110,12 @@ Complaint findsGlyph(const Platform& platform) {
     return "has a letter A that is blank";
 }
 
-Complaint releases(const Platform& platform) {
-    GFontRecord* const font = load(platform);
-    if (font == nullptr) {
-        return kNoFont;
-    }
+Complaint releases(const Platform& platform, GFontRecord* font) {
     platform.service<GPIReleaseFont>(GPI_SERVICE_RELEASE_FONT)(font);
     return load(platform) != nullptr ? "" : "takes a font back for good";
 }
 
-Complaint informs(const Platform& platform) {
-    GFontRecord* const font = load(platform);
-    if (font == nullptr) {
-        return kNoFont;
-    }
+Complaint informs(const Platform& platform, GFontRecord* font) {
     GFontInformation information{};
     const auto get = platform.service<GPIGetFontInformation>(GPI_SERVICE_GET_FONT_INFORMATION);
     if (get(font, &information) != 1) {
@@ -164,12 +131,9 @@ Complaint choosesScript(const Platform& platform) {
 
 /// Services 44 and 75.
 template <int32_t Number>
-Complaint drawsText(const Platform& platform) {
+Complaint drawsText(const Platform& platform, GFontRecord* font) {
     Screen screen(platform);
-    screen.handle.font = load(platform);
-    if (screen.handle.font == nullptr) {
-        return kNoFont;
-    }
+    screen.handle.font = font;
     if (!screen.isReadable()) {
         return screen.isUsable() ? "" : "has no surface of 16 x 16 pixels to draw on";
     }
@@ -189,23 +153,24 @@ std::span<const Probe> fontProbes() {
     static const std::vector<int32_t> kSized = {GPI_SERVICE_LOAD_FONT, GPI_SERVICE_SET_FONT_SIZE};
     static const std::vector<int32_t> kDrawing = {GPI_SERVICE_LOAD_FONT, GPI_SERVICE_GET_SURFACE};
     static const Probe kProbes[] = {
-        {GPI_SERVICE_LOAD_FONT, loads, {}},
-        {GPI_SERVICE_SET_FONT_SIZE, setsSize, kLoad},
-        {GPI_SERVICE_GET_FONT_SIZE, getsSize, kSized},
+        {GPI_SERVICE_LOAD_FONT, withFont<loads>, {}},
+        {GPI_SERVICE_SET_FONT_SIZE, withFont<setsSize>, kLoad},
+        {GPI_SERVICE_GET_FONT_SIZE, withFont<getsSize>, kSized},
         {GPI_SERVICE_SET_FONT_ATTRIBUTE,
-         setsAttribute,
+         withFont<setsAttribute>,
          {GPI_SERVICE_LOAD_FONT, GPI_SERVICE_GET_FONT_ATTRIBUTE}},
-        {GPI_SERVICE_GET_FONT_ATTRIBUTE, getsAttribute, kSized},
-        {GPI_SERVICE_SET_FONT_USER_ATTRIBUTE, setsUserAttribute, kLoad},
+        {GPI_SERVICE_GET_FONT_ATTRIBUTE, withFont<getsAttribute>, kSized},
+        {GPI_SERVICE_SET_FONT_USER_ATTRIBUTE, withFont<setsUserAttribute>, kLoad},
         {GPI_SERVICE_GET_FONT_USER_ATTRIBUTE,
-         getsUserAttribute,
+         withFont<getsUserAttribute>,
          {GPI_SERVICE_LOAD_FONT, GPI_SERVICE_SET_FONT_USER_ATTRIBUTE}},
-        {GPI_SERVICE_GLYPH, findsGlyph, kLoad},
-        {GPI_SERVICE_RELEASE_FONT, releases, kLoad},
-        {GPI_SERVICE_GET_FONT_INFORMATION, informs, kSized},
+        {GPI_SERVICE_GLYPH, withFont<findsGlyph>, kLoad},
+        {GPI_SERVICE_RELEASE_FONT, withFont<releases>, kLoad},
+        {GPI_SERVICE_GET_FONT_INFORMATION, withFont<informs>, kSized},
         {GPI_SERVICE_SET_GB_FONT_FLAG, choosesScript, {}},
-        {GPI_SERVICE_DRAW_STRING, drawsText<GPI_SERVICE_DRAW_STRING>, kDrawing},
-        {GPI_SERVICE_DRAW_CAPTION_LINE, drawsText<GPI_SERVICE_DRAW_CAPTION_LINE>, kDrawing},
+        {GPI_SERVICE_DRAW_STRING, withFont<drawsText<GPI_SERVICE_DRAW_STRING>>, kDrawing},
+        {GPI_SERVICE_DRAW_CAPTION_LINE, withFont<drawsText<GPI_SERVICE_DRAW_CAPTION_LINE>>,
+         kDrawing},
     };
     return kProbes;
 }
