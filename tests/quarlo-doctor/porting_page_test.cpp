@@ -3,10 +3,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cctype>
 #include <fstream>
 #include <iterator>
 #include <map>
-#include <regex>
 #include <string>
 #include <vector>
 
@@ -25,43 +26,67 @@ const std::string& page() {
     return text;
 }
 
-/// Everything that matches in a text, in order.
-std::vector<std::smatch> matches(const std::string& text, const std::string& pattern) {
-    const std::regex expression(pattern);
-    return {std::sregex_iterator(text.begin(), text.end(), expression), std::sregex_iterator()};
+/// The parts of a text between separators.
+std::vector<std::string> split(const std::string& text, const std::string& separator) {
+    std::vector<std::string> parts;
+    size_t begin = 0;
+    for (size_t end; (end = text.find(separator, begin)) != std::string::npos;) {
+        parts.push_back(text.substr(begin, end - begin));
+        begin = end + separator.size();
+    }
+    parts.push_back(text.substr(begin));
+    return parts;
+}
+
+/// The word that a text begins with.
+std::string wordAt(const std::string& text) {
+    const auto isPart = [](char c) { return std::isalnum(static_cast<uint8_t>(c)) || c == '_'; };
+    return {text.begin(), std::find_if_not(text.begin(), text.end(), isPart)};
 }
 
 /// A row of the page's tables.
 struct Row {
     std::string name;
     std::string type;
-    std::string gives;
     std::string need;
     std::string asked;
-    std::string without;
 };
 
 std::multimap<int, Row> rows() {
     std::multimap<int, Row> found;
-    for (const auto& row : matches(page(), R"(\n\| (\d+) \| `(\w+)` \| `(\w+)` \| ([^|\n]+) \| )"
-                                           R"((\w+) \| ([\w ]+) \| ([^|\n]+) \|)")) {
-        found.emplace(std::stoi(row[1]), Row{row[2], row[3], row[4], row[5], row[6], row[7]});
+    for (const std::string& line : split(page(), "\n")) {
+        // | number | `name` | `type` | gives | need | asked | without it |
+        const auto cells = split(line, " | ");
+        if (cells.size() == 7 && std::isdigit(static_cast<uint8_t>(line[2]))) {
+            EXPECT_FALSE(cells[3].empty() || cells[6].size() < 4) << line;
+            found.emplace(
+                std::stoi(line.substr(2)),
+                Row{wordAt(cells[1].substr(1)), wordAt(cells[2].substr(1)), cells[4], cells[5]});
+        }
     }
     return found;
 }
 
-/// What the headers say of services: "Service N, NEED: ..." above a type.
+/// What the headers say of a service: "Service N, NEED: ..." above its type.
 struct Declaration {
     std::string type;
     std::string need;
 };
 
 std::map<int, Declaration> declarations() {
-    const std::string headers = read(HEADERS "/services.h") + read(HEADERS "/forwards.h");
     std::map<int, Declaration> found;
-    for (const auto& type : matches(headers, R"(Service (\d+)(?:, (needed|expected))?[\s\S]*?)"
-                                             R"(\(\*(GPI\w+)\)\()")) {
-        found[std::stoi(type[1])] = {type[3], type[2].matched ? type[2].str() : "optional"};
+    const std::string headers = read(HEADERS "/services.h") + read(HEADERS "/forwards.h");
+    for (const std::string& typeAndNext : split(headers, "* Service ")) {
+        const size_t type = typeAndNext.find("(*GPI");
+        if (std::isdigit(static_cast<uint8_t>(typeAndNext[0])) && type != std::string::npos) {
+            const std::string comment = typeAndNext.substr(0, typeAndNext.find(':'));
+            const auto says = [&](const char* need) {
+                return comment.find(need) != std::string::npos;
+            };
+            found[std::stoi(typeAndNext)] = {
+                wordAt(typeAndNext.substr(type + 2)),
+                says(", needed") ? "needed" : (says(", expected") ? "expected" : "optional")};
+        }
     }
     return found;
 }
@@ -76,9 +101,11 @@ TEST(PortingPage, HasOneRowForEachService) {
 
 TEST(PortingPage, NamesServicesAsTheHeaderDoes) {
     std::map<int, std::string> names;
-    const std::string header = read(HEADERS "/gpi.h");
-    for (const auto& name : matches(header, R"(GPI_SERVICE_(\w+) = (\d+))")) {
-        names[std::stoi(name[2])] = name[1];
+    for (const std::string& name : split(read(HEADERS "/gpi.h"), "GPI_SERVICE_")) {
+        const size_t equals = name.find(" = ");
+        if (equals == wordAt(name).size()) {
+            names[std::stoi(name.substr(equals + 3))] = wordAt(name);
+        }
     }
     EXPECT_EQ(names.size(), kServiceCount);
     for (const auto& [number, row] : rows()) {

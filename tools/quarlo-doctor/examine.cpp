@@ -3,8 +3,6 @@
 #include "lifecycle.h"
 #include "probe.h"
 
-#include <algorithm>
-
 namespace doctor {
 namespace {
 
@@ -40,11 +38,14 @@ Finding examineService(const Platform& platform, const Service& service,
 
 } // namespace
 
-std::vector<Finding> examine(const Platform& platform, std::chrono::seconds limit) {
+std::vector<Finding> examine(const Platform& platform, const std::set<int32_t>& some,
+                             std::chrono::seconds limit) {
     std::vector<Finding> findings;
     for (const Group* const group : groups()) {
         for (const Service& service : group->services) {
-            findings.push_back(examineService(platform, service, limit));
+            if (some.empty() || some.contains(service.number)) {
+                findings.push_back(examineService(platform, service, limit));
+            }
         }
     }
     return findings;

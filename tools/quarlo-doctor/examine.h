@@ -6,6 +6,7 @@
 #include "services/service.h"
 
 #include <chrono>
+#include <set>
 #include <vector>
 
 namespace doctor {
@@ -23,8 +24,10 @@ struct Finding {
     Complaint complaint; ///< what is wrong, or why it was not probed
 };
 
-/// A finding for each service, in the order of their groups. Every probe runs on a platform that is
+/// A finding for each service, or for some by their numbers, in the order of their groups. Every
+/// probe runs on a platform that is
 /// started for it, in a process of its own and for no longer than the limit.
-std::vector<Finding> examine(const Platform& platform, std::chrono::seconds limit);
+std::vector<Finding> examine(const Platform& platform, const std::set<int32_t>& some,
+                             std::chrono::seconds limit);
 
 } // namespace doctor

@@ -10,6 +10,7 @@
 #include <cstdlib>
 #include <iostream>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 
@@ -17,13 +18,14 @@ namespace {
 
 enum ExitStatus { kFit = 0, kProbeFailed = 1, kUnfit = 2, kMisused = 3 };
 
-constexpr std::string_view kUsage = R"(usage: quarlo-doctor [--limit SECONDS] [PLATFORM]
+constexpr std::string_view kUsage = R"(usage: quarlo-doctor [--limit SECONDS] [PLATFORM [NUMBER...]]
        quarlo-doctor --services
 
 Examines a platform library, the host platform without PLATFORM: which services it
-has, what the missing ones cost, and whether those that can be tried work. A probe
-that takes longer than the limit, 5 seconds, has failed. --services lists what the
-library may ask a platform for, in Markdown.
+has, what the missing ones cost, and whether those that can be tried work. With
+numbers it looks at these services alone. A probe that takes longer than the limit,
+5 seconds, has failed. --services lists what the library may ask a platform for, in
+Markdown.
 
 Exit status: 0 fit; 1 a probe failed; 2 a needed service is missing, or the library
 cannot be loaded; 3 wrong usage.
@@ -33,13 +35,15 @@ struct Options {
     bool services = false;
     std::chrono::seconds limit{5};
     std::string platform = "libgpi.so.1";
+    std::set<int32_t> numbers; ///< empty for all services
 };
 
-std::optional<std::chrono::seconds> secondsIn(std::string_view text) {
-    int seconds = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), seconds);
-    const bool valid = error == std::errc() && end == text.data() + text.size();
-    return valid && seconds > 0 ? std::optional(std::chrono::seconds(seconds)) : std::nullopt;
+/// A number from 1.
+std::optional<int> numberIn(std::string_view text) {
+    int number = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    const bool valid = error == std::errc() && end == text.data() + text.size() && number > 0;
+    return valid ? std::optional(number) : std::nullopt;
 }
 
 std::optional<Options> parse(int argc, char** argv) {
@@ -50,14 +54,16 @@ std::optional<Options> parse(int argc, char** argv) {
         if (word == "--services") {
             options.services = true;
         } else if (word == "--limit" && i + 1 < argc) {
-            const auto limit = secondsIn(argv[++i]);
+            const auto limit = numberIn(argv[++i]);
             if (!limit) {
                 return std::nullopt;
             }
-            options.limit = *limit;
+            options.limit = std::chrono::seconds(*limit);
         } else if (!named && !word.starts_with("--")) {
             options.platform = word;
             named = true;
+        } else if (const auto number = numberIn(word)) {
+            options.numbers.insert(*number);
         } else {
             return std::nullopt;
         }
@@ -98,7 +104,7 @@ int main(int argc, char** argv) {
         std::cerr << "quarlo-doctor: " << platform.error() << '\n';
         return kUnfit;
     }
-    const auto findings = doctor::examine(platform, options->limit);
+    const auto findings = doctor::examine(platform, options->numbers, options->limit);
     doctor::printFindings(std::cout, findings);
     return verdict(findings);
 }
