@@ -141,12 +141,9 @@ BENCHMARK(readTyped)->Name("memory/GMGMemGetLong/block")->Arg(0)->Arg(128)->Arg(
 BENCHMARK(writeTyped)->Name("memory/GMGMemSetLong/block")->Arg(0)->Arg(128)->Arg(255);
 
 int run(int argc, char** argv) {
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
+    if (!startMeasuring(argc, argv)) {
         return EXIT_FAILURE;
     }
-    benchmark::AddCustomContext("core", std::to_string(pinToOneCore()));
-    benchmark::AddCustomContext("processor", processorName());
     GetGPIFunction();
     const Sleeper sleeper;
     benchmark::RunSpecifiedBenchmarks();

@@ -1,12 +1,16 @@
 #include "core.h"
 
+#include <benchmark/benchmark.h>
+
 #include <sched.h>
 #include <unistd.h>
 
 #include <cstdlib>
 #include <fstream>
+#include <string>
 
 namespace bench {
+namespace {
 
 int pinToOneCore() {
     cpu_set_t allowed;
@@ -22,6 +26,7 @@ int pinToOneCore() {
     return sched_setaffinity(0, sizeof one, &one) == 0 ? core : -1;
 }
 
+/// As the kernel names it; empty where it does not.
 std::string processorName() {
     std::ifstream info("/proc/cpuinfo");
     for (std::string line; std::getline(info, line);) {
@@ -30,6 +35,20 @@ std::string processorName() {
         }
     }
     return {};
+}
+
+} // namespace
+
+bool startMeasuring(int argc, char** argv) {
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
+        return false;
+    }
+    benchmark::AddCustomContext("core", std::to_string(pinToOneCore()));
+    benchmark::AddCustomContext("processor", processorName());
+    benchmark::AddCustomContext("compiler", BENCH_COMPILER);
+    benchmark::AddCustomContext("build", BENCH_BUILD);
+    return true;
 }
 
 void keepQtFromAvx2(char** argv) {

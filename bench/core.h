@@ -1,15 +1,12 @@
 // The one core that everything is measured on, and the settings that hold for a whole process.
 #pragma once
 
-#include <string>
-
 namespace bench {
 
-/// Keeps the process on the last core that it may use, which interrupts use least. Returns it.
-int pinToOneCore();
-
-/// As the kernel names it; empty where it does not.
-std::string processorName();
+/// Reads Google Benchmark's own arguments, keeps the process on the last core that it may use,
+/// which interrupts use least, and notes in the results what they were measured on. False for an
+/// argument that means nothing.
+bool startMeasuring(int argc, char** argv);
 
 /// Keeps Qt from AVX2 unless QT_NO_CPU_FEATURE is set: its fills would leave the registers in a
 /// state that slows other contenders. Qt looks while it is loaded, so the process starts anew.

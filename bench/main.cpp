@@ -52,15 +52,9 @@ bool registerAll(const std::vector<std::unique_ptr<Contender>>& contenders,
 }
 
 int run(int argc, char** argv) {
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
+    if (!startMeasuring(argc, argv)) {
         return EXIT_FAILURE;
     }
-    benchmark::AddCustomContext("core", std::to_string(pinToOneCore()));
-    benchmark::AddCustomContext("processor", processorName());
-    benchmark::AddCustomContext("compiler", BENCH_COMPILER);
-    benchmark::AddCustomContext("build", BENCH_BUILD);
-
     Canvas canvas;
     const auto contenders = makeContenders();
     const auto workloads = allWorkloads();

@@ -22,11 +22,13 @@ bool waitForSignal(Platform& self, Wait wait) {
     if (self.eventSignal.takeInterruption()) {
         offerMessage(self);
     }
-    Wake wake;
-    while ((wake = self.eventSignal.wait(deadline)) == Wake::Interrupted) {
+    for (;;) {
+        const Wake wake = self.eventSignal.wait(deadline);
+        if (wake != Wake::Interrupted) {
+            return wake == Wake::Signalled;
+        }
         offerMessage(self);
     }
-    return wake == Wake::Signalled;
 }
 
 } // namespace

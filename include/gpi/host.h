@@ -57,10 +57,10 @@
  * Window: #G_MESSAGE_QUIT when the user closes it, which does nothing else; #G_MESSAGE_PAINT when
  * it was uncovered, which need not be answered since the window shows its picture again by itself.
  *
- * The queue is bounded. Moves of the pointer that follow each other become one, repeats of a key
- * are counted in one message, and one paint and one quit message wait behind all others. When 224
- * messages wait, others are refused; releases have 32 more places, and what was refused is not
- * released either.
+ * The queue is empty at a start, and bounded. Moves of the pointer that follow each other become
+ * one, repeats of a key are counted in one message, and one paint and one quit message wait behind
+ * all others. When 224 messages wait, others are refused; releases have 32 more places, and what
+ * was refused is not released either.
  *
  * Drawing on a device surface stays inside it whatever the coordinates. Smooth glyphs have levels
  * from 0 to 15. A fill by service 70 without a pattern takes the one that service 69 was told of.

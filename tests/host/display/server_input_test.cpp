@@ -75,6 +75,20 @@ TEST_F(ServerInput, HasAPointerOfThePicturesPixels) {
     EXPECT_EQ(next(), "right up 80,60");
 }
 
+TEST_F(ServerInput, PaintsWhenTheWindowComesBack) {
+    GMessage message{};
+    do {
+        ASSERT_EQ(GPIHostWaitMessage(&message, kLong), 1);
+    } while (message.number != G_MESSAGE_PAINT); // it was never seen before
+    xdotool({"search", "--name", "input test", "windowunmap", "--sync", "%1"});
+    while (GPIHostWaitMessage(&message, 0) == 1) {
+    }
+    xdotool({"search", "--name", "input test", "windowmap", "--sync", "%1"});
+    do {
+        ASSERT_EQ(GPIHostWaitMessage(&message, kLong), 1);
+    } while (message.number != G_MESSAGE_PAINT);
+}
+
 TEST_F(ServerInput, ReleasesKeysWhenTheWindowLosesTheKeyboard) {
     xdotool({"keydown", "a"});
     EXPECT_EQ(next(), "key down 65");
