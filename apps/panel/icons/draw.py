@@ -1,0 +1,357 @@
+"""Draws the panel's icons, PNG files of 32 x 32 pixels with alpha.
+
+    python3 draw.py [FOLDER]    writes NAME.png for each function below, and their colours as
+                                palette/eight.png; here unless told otherwise
+
+One hand draws them all: flat areas in seven colours inside an outline of ink, two pixels wide with
+round corners, its middle on whole coordinates so that straight edges are sharp. The outermost
+pixels stay free.
+"""
+
+import math
+import pathlib
+import sys
+
+import cairo
+
+SIZE = 32
+LINE = 2
+
+INK = 0x22262E
+WHITE = 0xFFFFFF
+LIGHT = 0xCDD3D8
+GREY = 0x868E96
+RED = 0xC8452C
+GREEN = 0x3F9350
+BLUE = 0x2F6FB0
+GOLD = 0xE3A92F
+
+# For surfaces with a palette. Where pixels fall together, the first colour gives way.
+PALETTE = (WHITE, INK, LIGHT, GREY, RED, GREEN, BLUE, GOLD)
+
+
+class Pen:
+    """Shapes on a surface of an icon's size."""
+
+    def __init__(self):
+        self.surface = cairo.ImageSurface(cairo.FORMAT_ARGB32, SIZE, SIZE)
+        self.context = cairo.Context(self.surface)
+        self.context.set_line_cap(cairo.LINE_CAP_ROUND)
+        self.context.set_line_join(cairo.LINE_JOIN_ROUND)
+
+    def color(self, rgb):
+        self.context.set_source_rgb(*((rgb >> shift & 0xFF) / 255 for shift in (16, 8, 0)))
+
+    def fill(self, rgb):
+        """Fills the path and keeps it."""
+        self.color(rgb)
+        self.context.fill_preserve()
+
+    def stroke(self, rgb=INK, width=LINE):
+        self.color(rgb)
+        self.context.set_line_width(width)
+        self.context.stroke()
+
+    def finish(self, fill):
+        """Fills the path, and outlines it in ink."""
+        if fill is not None:
+            self.fill(fill)
+        self.stroke()
+
+    def path(self, *points, close=False):
+        self.context.new_path()
+        for point in points:
+            self.context.line_to(*point)
+        if close:
+            self.context.close_path()
+
+    def shape(self, fill, *points):
+        self.path(*points, close=True)
+        self.finish(fill)
+
+    def area(self, fill, *points):
+        """A shape without an outline."""
+        self.path(*points, close=True)
+        self.fill(fill)
+        self.context.new_path()
+
+    def line(self, *points, rgb=INK, width=LINE):
+        self.path(*points)
+        self.stroke(rgb, width)
+
+    def box(self, fill, left, top, right, bottom, radius=0):
+        context = self.context
+        context.new_path()
+        corners = ((right, top, -90), (right, bottom, 0), (left, bottom, 90), (left, top, 180))
+        for x, y, start in corners:
+            inner_x = x - radius if x == right else x + radius
+            inner_y = y + radius if y == top else y - radius
+            context.arc(inner_x, inner_y, radius, math.radians(start), math.radians(start + 90))
+        context.close_path()
+        self.finish(fill)
+
+    def disc(self, fill, x, y, radius):
+        self.context.new_path()
+        self.context.arc(x, y, radius, 0, 2 * math.pi)
+        self.finish(fill)
+
+    def dot(self, rgb, x, y, radius):
+        """A disc without an outline."""
+        self.context.new_path()
+        self.context.arc(x, y, radius, 0, 2 * math.pi)
+        self.fill(rgb)
+        self.context.new_path()
+
+    def arc(self, rgb, x, y, radius, start, end, width=LINE):
+        """Angles in degrees, growing clockwise from the right."""
+        self.context.new_path()
+        self.context.arc(x, y, radius, math.radians(start), math.radians(end))
+        self.stroke(rgb, width)
+
+    def mirror(self):
+        """Left becomes right from now on."""
+        self.context.translate(SIZE, 0)
+        self.context.scale(-1, 1)
+
+
+def turning_arrow(pen, fill, x, y, radius, start, end):
+    """An arrow along a circle, clockwise, in an outline. Its head leaves the circle straight on."""
+    half, head, length = 2.5, 5, 7
+    neck = math.radians(end)
+
+    def on(distance, ahead=0):
+        return (x + distance * math.cos(neck) - ahead * math.sin(neck),
+                y + distance * math.sin(neck) + ahead * math.cos(neck))
+
+    context = pen.context
+    context.new_path()
+    context.arc(x, y, radius + half, math.radians(start), neck)
+    for point in (on(radius + head), on(radius, length), on(radius - head)):
+        context.line_to(*point)
+    context.arc_negative(x, y, radius - half, neck, math.radians(start))
+    context.close_path()
+    pen.finish(fill)
+
+
+def block_arrow(pen, fill):
+    pen.shape(fill, (3, 10), (16, 10), (16, 3), (29, 16), (16, 29), (16, 22), (3, 22))
+
+
+def home(pen):
+    pen.box(RED, 21, 5, 25, 14)
+    pen.shape(WHITE, (7, 15), (16, 7), (25, 15), (25, 28), (7, 28))
+    pen.line((3, 16), (16, 4), (29, 16), width=3)
+    pen.shape(BLUE, (13, 28), (13, 19), (19, 19), (19, 28))
+
+
+def cycle_start(pen):
+    pen.disc(GREEN, 16, 16, 13)
+    pen.area(WHITE, (12, 9), (24, 16), (12, 23))
+
+
+def feed_hold(pen):
+    pen.disc(GOLD, 16, 16, 13)
+    pen.area(WHITE, (10, 9), (14, 9), (14, 23), (10, 23))
+    pen.area(WHITE, (18, 9), (22, 9), (22, 23), (18, 23))
+
+
+def reset(pen):
+    turning_arrow(pen, BLUE, 17, 16, 10, -100, 180)
+
+
+def single_block(pen):
+    pen.box(GOLD, 3, 10, 12, 22)
+    pen.line((12, 16), (19, 16))
+    pen.shape(INK, (19, 12), (24, 16), (19, 20))
+    pen.box(RED, 26, 6, 29, 26)
+
+
+def jog_plus(pen):
+    block_arrow(pen, BLUE)
+    pen.area(WHITE, (8, 15), (12, 15), (12, 11), (14, 11), (14, 15), (18, 15), (18, 17), (14, 17),
+             (14, 21), (12, 21), (12, 17), (8, 17))
+
+
+def jog_minus(pen):
+    pen.mirror()
+    block_arrow(pen, BLUE)
+    pen.area(WHITE, (8, 15), (18, 15), (18, 17), (8, 17))
+
+
+def spindle_cw(pen):
+    turning_arrow(pen, GREEN, 15, 17, 10, -215, 0)
+    pen.disc(GREY, 15, 17, 3)
+
+
+def spindle_ccw(pen):
+    pen.mirror()
+    spindle_cw(pen)
+
+
+def spindle_stop(pen):
+    pen.arc(INK, 16, 16, 10, 0, 360, width=6)
+    pen.arc(LIGHT, 16, 16, 10, 0, 360, width=2)
+    pen.box(RED, 12, 12, 20, 20)
+
+
+def drop(pen, fill, x, top, radius, height):
+    """A drop that hangs from (x, top)."""
+    context = pen.context
+    middle = top + height - radius
+    context.new_path()
+    context.move_to(x, top)
+    context.curve_to(x + radius * 0.4, top + height * 0.3, x + radius, middle - radius * 0.7,
+                     x + radius, middle)
+    context.arc(x, middle, radius, 0, math.pi)
+    context.curve_to(x - radius, middle - radius * 0.7, x - radius * 0.4, top + height * 0.3, x,
+                     top)
+    context.close_path()
+    pen.finish(fill)
+
+
+def coolant(pen):
+    drop(pen, BLUE, 12, 4, 8, 24)
+    drop(pen, BLUE, 25, 14, 4, 12)
+    pen.arc(WHITE, 12, 20, 4, 90, 180)
+
+
+def tool(pen):
+    pen.shape(GREY, (9, 3), (23, 3), (21, 9), (11, 9))
+    pen.box(LIGHT, 12, 9, 20, 15)
+    pen.shape(GOLD, (12, 15), (20, 15), (20, 26), (16, 29), (12, 26))
+    pen.line((12, 22), (20, 17))
+    pen.line((13, 27), (20, 22))
+
+
+def offsets(pen):
+    pen.line((20, 24), (20, 12), (8, 12), rgb=BLUE)
+    pen.line((8, 28), (8, 5))
+    pen.line((4, 24), (27, 24))
+    pen.shape(INK, (6, 6), (8, 3), (10, 6))
+    pen.shape(INK, (26, 22), (29, 24), (26, 26))
+    pen.disc(GOLD, 20, 12, 4)
+
+
+def alarm(pen):
+    pen.shape(GOLD, (16, 4), (29, 27), (3, 27))
+    pen.line((16, 12), (16, 18), width=3)
+    pen.dot(INK, 16, 23, 1.8)
+
+
+def program(pen):
+    pen.shape(WHITE, (6, 3), (19, 3), (26, 10), (26, 29), (6, 29))
+    pen.shape(LIGHT, (19, 3), (19, 10), (26, 10))
+    for row, (left, right) in enumerate(((10, 15), (10, 22), (10, 20), (10, 22))):
+        pen.line((left, 11 + 4 * row), (right, 11 + 4 * row), rgb=BLUE)
+
+
+def graphic(pen):
+    pen.box(WHITE, 3, 4, 29, 28, radius=2)
+    pen.line((8, 23), (8, 17), (13, 17), (13, 11), (17, 11), rgb=BLUE)
+    pen.arc(BLUE, 17, 17, 6, -90, 60)
+    pen.dot(RED, 20, 22, 2.5)
+
+
+def settings(pen):
+    context = pen.context
+    context.new_path()
+    teeth = 8
+    for tooth in range(teeth):
+        for angle, radius in ((-13, 9), (-8, 13), (8, 13), (13, 9)):
+            turned = math.radians(tooth * 360 / teeth + angle)
+            context.line_to(16 + radius * math.cos(turned), 16 + radius * math.sin(turned))
+    context.close_path()
+    pen.finish(GREY)
+    pen.disc(WHITE, 16, 16, 4)
+
+
+def language(pen):
+    context = pen.context
+    pen.dot(BLUE, 16, 16, 13)
+    pen.line((4, 16), (28, 16), rgb=WHITE)
+    pen.line((16, 4), (16, 28), rgb=WHITE)
+    context.save()
+    context.translate(16, 16)
+    context.scale(0.5, 1)
+    context.new_path()
+    context.arc(0, 0, 12, 0, 2 * math.pi)
+    context.restore()
+    pen.stroke(WHITE)
+    pen.disc(None, 16, 16, 13)
+
+
+def emergency_stop(pen):
+    pen.disc(GOLD, 16, 16, 13)
+    pen.disc(RED, 16, 16, 8)
+    pen.arc(WHITE, 16, 16, 4.5, 180, 270)
+
+
+def help_(pen):
+    pen.disc(BLUE, 16, 16, 13)
+    context = pen.context
+    context.new_path()
+    context.arc(16, 12.5, 4, math.radians(-180), math.radians(40))
+    context.curve_to(17.5, 16.5, 16, 16.5, 16, 19)
+    pen.stroke(WHITE, 3)
+    pen.dot(WHITE, 16, 23.5, 1.8)
+
+
+def handwheel(pen):
+    pen.disc(LIGHT, 16, 16, 13)
+    for tick in range(12):
+        turned = math.radians(30 * tick)
+        inner, outer = 10, 11.5
+        pen.line(*((16 + r * math.cos(turned), 16 + r * math.sin(turned)) for r in (inner, outer)),
+                 width=1.5)
+    pen.disc(GREY, 16, 16, 7)
+    pen.disc(GOLD, 19, 13, 2.5)
+
+
+def rapid(pen):
+    pen.shape(GOLD, (4, 6), (16, 16), (4, 26))
+    pen.shape(GOLD, (16, 6), (28, 16), (16, 26))
+
+
+def edit(pen):
+    pen.shape(RED, (22, 4), (28, 10), (25, 13), (19, 7))
+    pen.shape(GOLD, (19, 7), (25, 13), (12, 26), (6, 20))
+    pen.shape(WHITE, (6, 20), (12, 26), (4, 28))
+    pen.area(INK, (4, 28), (5, 25), (7, 27))
+
+
+def lock(pen):
+    pen.line((10, 15), (10, 10), width=3)
+    pen.line((22, 15), (22, 10), width=3)
+    pen.arc(INK, 16, 10, 6, 180, 360, width=3)
+    pen.box(GOLD, 6, 15, 26, 28, radius=2)
+    pen.dot(INK, 16, 20, 2.2)
+    pen.line((16, 21), (16, 24))
+
+
+ICONS = (home, cycle_start, feed_hold, reset, single_block, jog_plus, jog_minus, rapid, handwheel,
+         spindle_cw, spindle_ccw, spindle_stop, coolant, tool, offsets, alarm, program, graphic,
+         edit, settings, language, lock, emergency_stop, help_)
+
+
+def draw_palette(path):
+    surface = cairo.ImageSurface(cairo.FORMAT_RGB24, len(PALETTE), 1)
+    row = memoryview(surface.get_data()).cast("I")
+    for index, rgb in enumerate(PALETTE):
+        row[index] = rgb
+    surface.mark_dirty()
+    surface.write_to_png(str(path))
+
+
+def main():
+    folder = pathlib.Path(sys.argv[1] if len(sys.argv) > 1 else pathlib.Path(__file__).parent)
+    for draw in ICONS:
+        pen = Pen()
+        draw(pen)
+        name = draw.__name__.strip("_").replace("_", "-")
+        pen.surface.write_to_png(str(folder / f"{name}.png"))
+    (folder / "palette").mkdir(exist_ok=True)
+    draw_palette(folder / "palette" / "eight.png")
+
+
+if __name__ == "__main__":
+    main()
