@@ -1,0 +1,28 @@
+// Pictures in full colour.
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+namespace grf {
+
+/// Red, green and blue are not multiplied by alpha.
+struct Color {
+    uint8_t red;
+    uint8_t green;
+    uint8_t blue;
+    uint8_t alpha = 255;
+
+    friend bool operator==(const Color&, const Color&) = default;
+};
+
+/// Rows of pixels, the upper left one first.
+struct Picture {
+    int width;
+    int height;
+    std::vector<Color> pixels;
+
+    friend bool operator==(const Picture&, const Picture&) = default;
+};
+
+} // namespace grf
