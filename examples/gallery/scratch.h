@@ -1,6 +1,8 @@
 // A small memory surface with a handle of its own, to be copied onto a page.
 #pragma once
 
+#include "draw.h"
+
 #include <quarlo/surface.h>
 #include <quarlo/types.h>
 
@@ -35,5 +37,18 @@ class Scratch {
   private:
     GDrawHandle* handle_;
 };
+
+/// A figure that draws by draw(handle, box) on a surface of its own, of a format and the figure's
+/// size, and copies it onto the page.
+template <typename Draw>
+auto on(const GVram& format, Draw draw) {
+    return [format, draw](GDrawHandle* to, const GRect& figure) {
+        const Scratch scratch(widthOf(figure), heightOf(figure), format);
+        if (scratch.handle() != nullptr) {
+            draw(scratch.handle(), box(0, 0, widthOf(figure), heightOf(figure)));
+            scratch.copyTo(to, figure.left, figure.top);
+        }
+    };
+}
 
 } // namespace gallery

@@ -28,6 +28,7 @@ const std::vector<Sheet>& sheets() {
         {"transfers", "Block transfers", "From surface to surface", drawTransferFigures},
         {"text", "Text", "One face, many scripts", drawTextFigures},
         {"captions", "Captions", "Text in a rectangle", drawCaptionFigures},
+        {"images", "Images", "Runs of pixels, drawn as they are", drawImageFigures},
     };
     return all;
 }

@@ -26,5 +26,6 @@ void drawClippingFigures(GDrawHandle* handle);
 void drawTransferFigures(GDrawHandle* handle);
 void drawTextFigures(GDrawHandle* handle);
 void drawCaptionFigures(GDrawHandle* handle);
+void drawImageFigures(GDrawHandle* handle);
 
 } // namespace gallery

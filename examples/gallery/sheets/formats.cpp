@@ -97,18 +97,6 @@ constexpr Colors kPrint = {{0xF4EFE0, 0xF0E8D2, 0xEBE0C4, 0xE6D8B6, 0xE1D0A8, 0x
                            0x5E7E8E,
                            0xF8F6F0};
 
-/// Draws by draw(handle, box) on a surface of a format and copies it into the figure.
-template <typename Draw>
-auto on(const GVram& format, Draw draw) {
-    return [format, draw](GDrawHandle* to, const GRect& figure) {
-        const Scratch scratch(widthOf(figure), heightOf(figure), format);
-        if (scratch.handle() != nullptr) {
-            draw(scratch.handle(), box(0, 0, widthOf(figure), heightOf(figure)));
-            scratch.copyTo(to, figure.left, figure.top);
-        }
-    };
-}
-
 } // namespace
 
 void drawFormatFigures(GDrawHandle* handle) {
