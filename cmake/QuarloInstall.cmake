@@ -12,6 +12,7 @@ configure_package_config_file(cmake/quarloConfig.cmake.in quarloConfig.cmake
 write_basic_package_version_file(quarloConfigVersion.cmake COMPATIBILITY SameMajorVersion)
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/quarloConfig.cmake
               ${CMAKE_CURRENT_BINARY_DIR}/quarloConfigVersion.cmake
+              cmake/QuarloImages.cmake
         DESTINATION ${package_dir})
 install(EXPORT quarlo NAMESPACE quarlo:: FILE quarloTargets.cmake DESTINATION ${package_dir})
 

@@ -21,6 +21,7 @@ export QUARLO_DISPLAY=memory
 "$cmake" --build "$work/consumer/cmake" >"$work/build.log"
 "$work/consumer/cmake/draw_c"
 "$work/consumer/cmake/draw_cpp"
+"$work/consumer/cmake/images"
 
 # The tool finds the platform that was installed with it, and nothing wrong.
 "$prefix/bin/quarlo-doctor" >"$work/doctor.log"
