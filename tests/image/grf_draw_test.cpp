@@ -168,7 +168,7 @@ TEST_F(Grf, LeavesTheSameCellsByKernelsAndBySlots) {
 
 TEST_F(Grf, OfNoSizeOrUnknownDepthDrawsNothing) {
     Drawing drawing(4, 4);
-    const auto colors = grfPalette();
+    const auto& colors = grfPalette();
     const GGrfPalette palette{0, colors.data()};
     const GGrfPalette empty{0, nullptr};
     const GGrfImage images[] = {

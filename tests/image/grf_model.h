@@ -39,12 +39,15 @@ struct GrfCase {
     }
 };
 
-inline std::vector<uint32_t> grfPalette() {
-    std::vector<uint32_t> colors(1 << 16);
-    for (size_t i = 0; i < colors.size(); ++i) {
-        colors[i] = static_cast<uint32_t>(i * 0x9E3779B1U);
-    }
-    return colors;
+inline const std::vector<uint32_t>& grfPalette() {
+    static const std::vector<uint32_t> palette = [] {
+        std::vector<uint32_t> colors(1 << 16);
+        for (size_t i = 0; i < colors.size(); ++i) {
+            colors[i] = static_cast<uint32_t>(i * 0x9E3779B1U);
+        }
+        return colors;
+    }();
+    return palette;
 }
 
 /// The runs of a stream as pixels: the value, or nothing for one that is skipped.
@@ -57,7 +60,7 @@ struct GrfPixel {
 /// holding `perUnit` pixels of `bits` bits.
 inline std::vector<GrfPixel> grfPixels(const GrfCase& call, int32_t unitBytes, bool packed) {
     const size_t most = static_cast<size_t>(call.width) * static_cast<size_t>(call.height);
-    const auto colors = grfPalette();
+    const auto& colors = grfPalette();
     std::vector<GrfPixel> pixels;
     size_t at = 0;
     const auto unit = [&](size_t from) {

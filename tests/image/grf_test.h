@@ -4,7 +4,7 @@
 #include "image/grf_model.h"
 #include "raster/drawing.h"
 
-#include <cstring>
+#include <algorithm>
 #include <functional>
 #include <string>
 
@@ -18,7 +18,7 @@ inline constexpr GRect kGrfClip = {3, 2, 35, 26};
 class ExactStream {
   public:
     explicit ExactStream(const std::vector<uint8_t>& bytes) : memory_(bytes.size(), Against::End) {
-        std::memcpy(memory_.data(), bytes.data(), bytes.size());
+        std::copy(bytes.begin(), bytes.end(), memory_.data());
     }
     const uint8_t* data() const { return memory_.data(); }
 
@@ -41,7 +41,7 @@ std::string grfDifference(const GrfCase& call, GrfThrough through, int16_t depth
             surface->memory().data()[i] = static_cast<uint8_t>(i * 29);
         }
     }
-    const auto colors = grfPalette();
+    const auto& colors = grfPalette();
     const GGrfPalette palette{0, colors.data()};
     const GGrfImage image{call.type,
                           call.width,
