@@ -114,6 +114,12 @@ Settings readSettings(const SettingSource& source) {
                                {{"sim", ControlKind::Sim}, {"linuxcnc", ControlKind::LinuxCnc}},
                                settings.control);
     reader.text("QUARLO_NC_HELPER", settings.controlHelper);
+    reader.text("QUARLO_NET_CA_FILE", settings.authorities);
+    reader.text("QUARLO_NET_PROXY", settings.proxy);
+    constexpr int32_t kLongest = std::numeric_limits<int32_t>::max();
+    reader.number("QUARLO_NET_CONNECT_TIMEOUT", 1, kLongest, settings.connectTimeout);
+    reader.number("QUARLO_NET_IDLE_TIMEOUT", 1, kLongest, settings.idleTimeout);
+    reader.number("QUARLO_NET_REDIRECTS", 0, 50, settings.redirects);
     reader.choice<int32_t>("QUARLO_CODE_PAGE",
                            {{"UTF-8", G_CODE_PAGE_UTF8},
                             {"CP932", G_CODE_PAGE_CP932},

@@ -45,12 +45,17 @@ struct Settings {
     std::string userProfiles;               ///< QUARLO_USER_PROFILES: folder of the user's
     ControlKind control = ControlKind::Sim; ///< QUARLO_NC: sim, linuxcnc
     std::string controlHelper;              ///< QUARLO_NC_HELPER: program that speaks to LinuxCNC
-    int32_t codePage = G_CODE_PAGE_UTF8;    ///< QUARLO_CODE_PAGE: UTF-8, CP932, GBK, CP1252
-    std::string panelFont;                  ///< QUARLO_PANEL_FONT: file of the panel face
-    std::string japaneseFont;               ///< QUARLO_JAPANESE_FONT: file of ideographs
-    std::string chineseFont;                ///< QUARLO_CHINESE_FONT: file of ideographs
-    int32_t glyphCache = 2048;              ///< QUARLO_GLYPH_CACHE: KiB
-    bool wholeStrings = true;               ///< QUARLO_WHOLE_STRINGS: yes, no
+    std::string authorities;                ///< QUARLO_NET_CA_FILE: certificates also trusted
+    std::string proxy;                      ///< QUARLO_NET_PROXY: URL of a proxy, empty for none
+    int32_t connectTimeout = 10000;         ///< QUARLO_NET_CONNECT_TIMEOUT: milliseconds
+    int32_t idleTimeout = 30000;         ///< QUARLO_NET_IDLE_TIMEOUT: milliseconds without a byte
+    int32_t redirects = 10;              ///< QUARLO_NET_REDIRECTS: at most, 0 to 50
+    int32_t codePage = G_CODE_PAGE_UTF8; ///< QUARLO_CODE_PAGE: UTF-8, CP932, GBK, CP1252
+    std::string panelFont;               ///< QUARLO_PANEL_FONT: file of the panel face
+    std::string japaneseFont;            ///< QUARLO_JAPANESE_FONT: file of ideographs
+    std::string chineseFont;             ///< QUARLO_CHINESE_FONT: file of ideographs
+    int32_t glyphCache = 2048;           ///< QUARLO_GLYPH_CACHE: KiB
+    bool wholeStrings = true;            ///< QUARLO_WHOLE_STRINGS: yes, no
     int32_t memoryLimit = 0; ///< QUARLO_MEMORY_LIMIT: bytes of a memory space, 0 for no limit
 };
 

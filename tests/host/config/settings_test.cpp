@@ -40,6 +40,11 @@ TEST(Settings, HaveDefaults) {
     EXPECT_EQ(read.settings.title, "quarlo");
     EXPECT_EQ(read.settings.png, "quarlo.png");
     EXPECT_EQ(read.settings.memoryLimit, 0);
+    EXPECT_EQ(read.settings.authorities, "");
+    EXPECT_EQ(read.settings.proxy, "");
+    EXPECT_EQ(read.settings.connectTimeout, 10000);
+    EXPECT_EQ(read.settings.idleTimeout, 30000);
+    EXPECT_EQ(read.settings.redirects, 10);
     EXPECT_EQ(read.said, "");
 }
 
@@ -53,6 +58,11 @@ TEST(Settings, ComeFromTheEnvironment) {
     values["QUARLO_TITLE"] = "Lathe 4";
     values["QUARLO_PNG"] = "a b.png";
     values["QUARLO_MEMORY_LIMIT"] = "2147483647";
+    values["QUARLO_NET_CA_FILE"] = "plant.pem";
+    values["QUARLO_NET_PROXY"] = "http://gate:3128";
+    values["QUARLO_NET_CONNECT_TIMEOUT"] = "1";
+    values["QUARLO_NET_IDLE_TIMEOUT"] = "2147483647";
+    values["QUARLO_NET_REDIRECTS"] = "50";
     const Environment environment(values);
     const Read read;
     EXPECT_EQ(read.settings.display, DisplayKind::Png);
@@ -63,6 +73,11 @@ TEST(Settings, ComeFromTheEnvironment) {
     EXPECT_EQ(read.settings.title, "Lathe 4");
     EXPECT_EQ(read.settings.png, "a b.png");
     EXPECT_EQ(read.settings.memoryLimit, INT32_MAX);
+    EXPECT_EQ(read.settings.authorities, "plant.pem");
+    EXPECT_EQ(read.settings.proxy, "http://gate:3128");
+    EXPECT_EQ(read.settings.connectTimeout, 1);
+    EXPECT_EQ(read.settings.idleTimeout, INT32_MAX);
+    EXPECT_EQ(read.settings.redirects, 50);
     EXPECT_EQ(read.said, "");
 }
 
@@ -98,13 +113,24 @@ TEST(Settings, ChooseTheControl) {
 TEST(Settings, NameAWrongValueInOneLineAndTakeTheDefault) {
     const Environment environment(nothing());
     const std::pair<const char*, const char*> wrong[] = {
-        {"QUARLO_DISPLAY", "vga"},      {"QUARLO_WIDTH", "0"},
-        {"QUARLO_WIDTH", "2561"},       {"QUARLO_WIDTH", "640x480"},
-        {"QUARLO_HEIGHT", "-5"},        {"QUARLO_HEIGHT", " 5"},
-        {"QUARLO_FORMAT", "32"},        {"QUARLO_FORMAT", "16"},
-        {"QUARLO_NC", "lathe"},         {"QUARLO_SCALE", "9"},
-        {"QUARLO_SCALE", "1.5"},        {"QUARLO_MEMORY_LIMIT", "-1"},
-        {"QUARLO_MEMORY_LIMIT", "1e9"}, {"QUARLO_MEMORY_LIMIT", "99999999999999999999"},
+        {"QUARLO_DISPLAY", "vga"},
+        {"QUARLO_WIDTH", "0"},
+        {"QUARLO_WIDTH", "2561"},
+        {"QUARLO_WIDTH", "640x480"},
+        {"QUARLO_HEIGHT", "-5"},
+        {"QUARLO_HEIGHT", " 5"},
+        {"QUARLO_FORMAT", "32"},
+        {"QUARLO_FORMAT", "16"},
+        {"QUARLO_NC", "lathe"},
+        {"QUARLO_SCALE", "9"},
+        {"QUARLO_SCALE", "1.5"},
+        {"QUARLO_MEMORY_LIMIT", "-1"},
+        {"QUARLO_MEMORY_LIMIT", "1e9"},
+        {"QUARLO_MEMORY_LIMIT", "99999999999999999999"},
+        {"QUARLO_NET_CONNECT_TIMEOUT", "0"},
+        {"QUARLO_NET_IDLE_TIMEOUT", "30s"},
+        {"QUARLO_NET_REDIRECTS", "51"},
+        {"QUARLO_NET_REDIRECTS", "-1"},
     };
     for (const auto& [name, value] : wrong) {
         const Environment one{{name, value}};
@@ -118,6 +144,9 @@ TEST(Settings, NameAWrongValueInOneLineAndTakeTheDefault) {
         EXPECT_EQ(read.settings.format, kFormat555);
         EXPECT_EQ(read.settings.scale, 1);
         EXPECT_EQ(read.settings.memoryLimit, 0);
+        EXPECT_EQ(read.settings.connectTimeout, 10000);
+        EXPECT_EQ(read.settings.idleTimeout, 30000);
+        EXPECT_EQ(read.settings.redirects, 10);
     }
 }
 

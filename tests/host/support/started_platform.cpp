@@ -6,11 +6,26 @@ Environment::Values settings(const Environment::Values& changes) {
     Environment::Values values = {{"QUARLO_CONFIG", std::nullopt},
                                   {"XDG_CONFIG_HOME", "/nonexistent"},
                                   {"QUARLO_DISPLAY", "memory"}};
-    for (const char* name :
-         {"QUARLO_WIDTH", "QUARLO_HEIGHT", "QUARLO_FORMAT", "QUARLO_SCALE", "QUARLO_TITLE",
-          "QUARLO_NC", "QUARLO_NC_HELPER", "QUARLO_PNG", "QUARLO_MEMORY_LIMIT", "QUARLO_PANEL_FONT",
-          "QUARLO_JAPANESE_FONT", "QUARLO_CHINESE_FONT", "QUARLO_GLYPH_CACHE",
-          "QUARLO_WHOLE_STRINGS", "QUARLO_CODE_PAGE"}) {
+    for (const char* name : {"QUARLO_WIDTH",
+                             "QUARLO_HEIGHT",
+                             "QUARLO_FORMAT",
+                             "QUARLO_SCALE",
+                             "QUARLO_TITLE",
+                             "QUARLO_NC",
+                             "QUARLO_NC_HELPER",
+                             "QUARLO_NET_CA_FILE",
+                             "QUARLO_NET_CONNECT_TIMEOUT",
+                             "QUARLO_NET_IDLE_TIMEOUT",
+                             "QUARLO_NET_PROXY",
+                             "QUARLO_NET_REDIRECTS",
+                             "QUARLO_PNG",
+                             "QUARLO_MEMORY_LIMIT",
+                             "QUARLO_PANEL_FONT",
+                             "QUARLO_JAPANESE_FONT",
+                             "QUARLO_CHINESE_FONT",
+                             "QUARLO_GLYPH_CACHE",
+                             "QUARLO_WHOLE_STRINGS",
+                             "QUARLO_CODE_PAGE"}) {
         values[name] = std::nullopt;
     }
     for (const auto& [name, value] : changes) {
