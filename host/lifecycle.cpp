@@ -20,6 +20,7 @@ GWord startPlatform(GWord configuration) {
             self.profiles = std::make_unique<Profiles>(settings.profiles, settings.userProfiles);
             self.modules = std::make_unique<ModuleStore>(settings.modules);
             self.programs = std::make_unique<ProgramStore>(settings.programs, settings.files);
+            self.network = std::make_unique<Network>(settings);
             self.messages.clear();
             self.input.reset();
             self.wholeStrings = settings.wholeStrings;
@@ -49,6 +50,7 @@ GWord stopPlatform() {
     const GWord kept = closeDisplay();
     Platform& self = platform();
     self.screen.reset();
+    self.network.reset();
     self.programs.reset();
     self.modules.reset();
     self.profiles.reset();

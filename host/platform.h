@@ -14,6 +14,7 @@
 #include "message/message_queue.h"
 #include "module/module_store.h"
 #include "nc/controller.h"
+#include "net/network.h"
 #include "profile/profiles.h"
 #include "text/code_page.h"
 
@@ -48,6 +49,7 @@ struct Platform {
     std::unique_ptr<Profiles> profiles;
     std::unique_ptr<ModuleStore> modules;
     std::unique_ptr<ProgramStore> programs;
+    std::unique_ptr<Network> network;
     std::unique_ptr<nc::Controller> controller;
 };
 

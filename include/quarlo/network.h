@@ -26,29 +26,32 @@ QUARLO_BEGIN
 
 /** Reasons of a failure. */
 enum {
-    G_NET_OK = 0,               /**< the last call succeeded */
-    G_NET_ARGUMENT = 1,         /**< an argument is null or out of range */
-    G_NET_HANDLE = 2,           /**< not an open handle */
-    G_NET_HANDLE_KIND = 3,      /**< an open handle, but of another kind */
-    G_NET_STATE = 4,            /**< not now: the request is not sent yet, or ended already */
-    G_NET_URL = 5,              /**< not a URL */
-    G_NET_PROTOCOL = 6,         /**< a protocol that the platform does not speak, or broken */
-    G_NET_BUFFER = 7,           /**< the buffer is too small */
-    G_NET_NO_MEMORY = 8,        /**< memory is short */
-    G_NET_NAME = 9,             /**< the server's name has no address */
-    G_NET_REFUSED = 10,         /**< no connection to the server */
-    G_NET_TIMEOUT = 11,         /**< nothing happened for too long */
-    G_NET_BROKEN = 12,          /**< the connection broke off */
-    G_NET_CERTIFICATE = 13,     /**< the server's certificate is not good */
-    G_NET_REDIRECTS = 14,       /**< more redirects than allowed */
-    G_NET_LOGIN = 15,           /**< user or password refused */
-    G_NET_DENIED = 16,          /**< not permitted by the server */
-    G_NET_NOT_FOUND = 17,       /**< no such file, folder, header or option */
-    G_NET_EXISTS = 18,          /**< there is such a file already */
-    G_NET_END = 19,             /**< the end of a list */
-    G_NET_SERVER = 20,          /**< the server failed */
-    G_NET_LOCAL_FILE = 21,      /**< the local file cannot be read or written */
-    G_NET_READ_ONLY_OPTION = 22 /**< the option can only be read */
+    G_NET_OK = 0,                /**< the last call succeeded */
+    G_NET_ARGUMENT = 1,          /**< an argument is null or out of range */
+    G_NET_HANDLE = 2,            /**< not an open handle */
+    G_NET_HANDLE_KIND = 3,       /**< an open handle, but of another kind */
+    G_NET_STATE = 4,             /**< not now: the request is not sent yet, or ended already */
+    G_NET_URL = 5,               /**< not a URL */
+    G_NET_PROTOCOL = 6,          /**< a protocol that the platform does not speak, or broken */
+    G_NET_BUFFER = 7,            /**< the buffer is too small */
+    G_NET_NO_MEMORY = 8,         /**< memory is short */
+    G_NET_NAME = 9,              /**< the server's name has no address */
+    G_NET_REFUSED = 10,          /**< no connection to the server */
+    G_NET_TIMEOUT = 11,          /**< nothing happened for too long */
+    G_NET_BROKEN = 12,           /**< the connection broke off */
+    G_NET_CERTIFICATE = 13,      /**< the server's certificate is not good */
+    G_NET_REDIRECTS = 14,        /**< more redirects than allowed */
+    G_NET_LOGIN = 15,            /**< user or password refused */
+    G_NET_DENIED = 16,           /**< not permitted */
+    G_NET_NOT_FOUND = 17,        /**< no such file, folder, header or option */
+    G_NET_EXISTS = 18,           /**< there is such a file already */
+    G_NET_END = 19,              /**< the end of a list */
+    G_NET_SERVER = 20,           /**< the server failed */
+    G_NET_LOCAL_FILE = 21,       /**< the local file cannot be read or written */
+    G_NET_READ_ONLY_OPTION = 22, /**< the option can only be read */
+    G_NET_UNSUPPORTED = 23,      /**< the server cannot do that, such as sending part of a file */
+    G_NET_FULL = 24,             /**< no room on the server */
+    G_NET_TOO_MANY = 25          /**< too many handles */
 };
 
 /** Protocols, for GNetConnect() and GNetUrl. */
@@ -103,7 +106,7 @@ enum {
     G_NET_OPTION_REDIRECTS = 3,       /**< redirects to follow, int32_t, 0 to 50; 10 */
     G_NET_OPTION_AGENT = 4,           /**< how the program calls itself, text */
     G_NET_OPTION_USER = 5,            /**< user name, text */
-    G_NET_OPTION_PASSWORD = 6,        /**< password, text; cannot be read */
+    G_NET_OPTION_PASSWORD = 6,        /**< password, text; reading it is denied */
     G_NET_OPTION_PROXY = 7,           /**< URL of a proxy, text; empty for none */
     G_NET_OPTION_AUTHORITIES = 8,     /**< local file of trusted certificate authorities, text */
     G_NET_OPTION_RATE = 9,            /**< bytes a second at most, int32_t; 0 for no limit */

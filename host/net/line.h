@@ -1,0 +1,58 @@
+// What a transfer of libcurl's needs, lent out and taken back with its connections.
+#pragma once
+
+#include <curl/curl.h>
+
+#include <cstddef>
+#include <memory>
+#include <mutex>
+#include <vector>
+
+namespace gpi {
+
+/// One transfer at a time, and the connections that earlier ones left open.
+class Line {
+  public:
+    Line();
+
+    CURLM* multi() const { return multi_.get(); }
+    CURL* easy() const { return easy_.get(); }
+
+  private:
+    // To the compiler both are void.
+    struct FreeMulti {
+        void operator()(CURLM* multi) const { curl_multi_cleanup(multi); }
+    };
+    struct FreeEasy {
+        void operator()(CURL* easy) const { curl_easy_cleanup(easy); }
+    };
+
+    std::unique_ptr<CURLM, FreeMulti> multi_;
+    std::unique_ptr<CURL, FreeEasy> easy_; // goes first
+};
+
+/// Lends lines out, from any thread.
+class LinePool : public std::enable_shared_from_this<LinePool> {
+  public:
+    /// @param most lines that are out at a time
+    explicit LinePool(size_t most) : most_(most) {}
+
+    struct GiveBack {
+        std::shared_ptr<LinePool> pool;
+        void operator()(Line* line) const { pool->put(std::unique_ptr<Line>(line)); }
+    };
+    using Lease = std::unique_ptr<Line, GiveBack>;
+
+    /// @throws NetError G_NET_STATE when all are out
+    Lease take();
+
+  private:
+    void put(std::unique_ptr<Line> line);
+
+    std::mutex mutex_;
+    std::vector<std::unique_ptr<Line>> idle_;
+    size_t most_;
+    size_t out_ = 0;
+};
+
+} // namespace gpi
