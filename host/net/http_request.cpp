@@ -76,15 +76,17 @@ std::unique_ptr<Transfer> HttpRequest::prepare(const std::shared_ptr<HttpHead>& 
 }
 
 void HttpRequest::chooseVerb(Transfer& transfer, bool withBody) const {
+    std::string_view natural = "GET";
     if (withBody || ask_.verb == "POST") {
+        natural = "POST";
         transfer.set(CURLOPT_POST, 1L);
     } else if (ask_.verb == "HEAD") {
+        natural = "HEAD";
         transfer.set(CURLOPT_NOBODY, 1L);
-        return;
     } else {
         transfer.set(CURLOPT_HTTPGET, 1L);
     }
-    if (ask_.verb != (withBody ? "POST" : "GET") && ask_.verb != "POST") {
+    if (ask_.verb != natural) {
         transfer.set(CURLOPT_CUSTOMREQUEST, ask_.verb.c_str());
     }
 }
@@ -99,8 +101,19 @@ std::unique_ptr<Transfer> HttpRequest::prepareToSend(std::vector<std::string> he
     return prepare(head_, std::move(headers));
 }
 
-void HttpRequest::send(std::string_view body) {
+void HttpRequest::send(const std::string& headers, std::optional<std::string_view> body) {
     requireState(State::Prepared);
+    const HeaderList before = headers_;
+    try {
+        headers_.add(headers, G_HEADER_ADD);
+        body.has_value() ? sendWhole(*body) : sendHead();
+    } catch (const std::exception&) {
+        headers_ = before; // for the next attempt
+        throw;
+    }
+}
+
+void HttpRequest::sendWhole(std::string_view body) {
     auto transfer = prepareToSend({});
     chooseVerb(*transfer, !body.empty());
     if (!body.empty() || ask_.verb == "POST") {
@@ -111,7 +124,6 @@ void HttpRequest::send(std::string_view body) {
 }
 
 void HttpRequest::sendHead() {
-    requireState(State::Prepared);
     require(ask_.version != "HTTP/1.0", G_NET_UNSUPPORTED);
     auto transfer = prepareToSend({"Transfer-Encoding: chunked"});
     chooseVerb(*transfer, true);

@@ -31,10 +31,11 @@ class HttpRequest : public RemoteFile {
     /// @param flags as for GNetHttpAddRequestHeaders()
     void addHeaders(const std::string& headers, uint32_t flags);
 
-    /// Sends it whole and waits for the head of the answer.
-    void send(std::string_view body);
-    /// Sends its head; write() then sends the body, until endBody().
-    void sendHead();
+    /// Sends it whole and waits for the head of the answer. Without a body, sends its head alone;
+    /// write() then sends the body, until endBody(). It may be sent again when that fails.
+    ///
+    /// @param headers more of them
+    void send(const std::string& headers, std::optional<std::string_view> body);
     void endBody();
 
     using RemoteFile::begin;
@@ -53,6 +54,8 @@ class HttpRequest : public RemoteFile {
     std::unique_ptr<Transfer> prepare(const std::shared_ptr<HttpHead>& head,
                                       std::vector<std::string> headers) const;
     std::unique_ptr<Transfer> prepareToSend(std::vector<std::string> headers);
+    void sendWhole(std::string_view body);
+    void sendHead();
     void chooseVerb(Transfer& transfer, bool withBody) const;
     void awaitAnswer(std::unique_ptr<Transfer> transfer);
     void requireState(State state) const { require(state_ == state, G_NET_STATE); }

@@ -6,6 +6,9 @@
 #include "net/text.h"
 #include "net/url.h"
 
+#include <optional>
+#include <string_view>
+
 namespace gpi {
 namespace {
 
@@ -63,16 +66,12 @@ int32_t httpSendRequest(GNetHandle* request, const char16_t* headers, const void
                         int32_t size) {
     return netDone([&] {
         require(size >= -1 && (body != nullptr || size <= 0) && (body == nullptr || size >= 0));
-        network().with<HttpRequest>(request, [&](const auto& asked) {
-            if (headers != nullptr) {
-                asked->addHeaders(netText(headers), G_HEADER_ADD);
-            }
-            if (size < 0) {
-                asked->sendHead();
-            } else {
-                asked->send({static_cast<const char*>(body), static_cast<size_t>(size)});
-            }
-        });
+        const std::string more = headers != nullptr ? netText(headers) : "";
+        std::optional<std::string_view> whole;
+        if (size >= 0) {
+            whole = {static_cast<const char*>(body), static_cast<size_t>(size)};
+        }
+        network().with<HttpRequest>(request, [&](const auto& asked) { asked->send(more, whole); });
     });
 }
 

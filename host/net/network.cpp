@@ -97,11 +97,10 @@ GNetHandle* Network::openHttpUrl(const std::shared_ptr<Session>& session, const 
     ask.flags = flags;
     const auto request =
         std::make_shared<HttpRequest>(session, options, session->lines(), std::move(ask));
-    request->addHeaders(headers, G_HEADER_ADD);
     if (auto kept = findKept(*request, flags)) {
         request->begin(std::move(kept));
     } else {
-        request->send({});
+        request->send(headers, std::string_view());
     }
     return handles.add(request);
 }

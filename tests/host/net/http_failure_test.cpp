@@ -26,6 +26,8 @@ TEST_F(HttpFailure, RefusedConnection) {
     EXPECT_EQ(lastError(), G_NET_REFUSED);
     EXPECT_EQ(sendRequest(file, nullptr, nullptr, -1), 0) << "once more";
     EXPECT_EQ(lastError(), G_NET_REFUSED);
+    EXPECT_EQ(sendRequest(file, u"X-Own: lost", nullptr, 0), 0);
+    EXPECT_EQ(addRequestHeaders(file, u"X-Own: kept", 0), 1) << "there is no such header yet";
 }
 
 TEST_F(HttpFailure, UnknownServer) {
@@ -83,19 +85,29 @@ TEST_F(HttpFailure, BrokenTransfer) {
     EXPECT_EQ(closeHandle(file), 1);
 }
 
-TEST_F(HttpFailure, BrokenSending) {
-    GNetHandle* const file = request(u"PUT", u"/store/part.txt");
-    ASSERT_EQ(sendRequest(file, nullptr, nullptr, -1), 1);
+/// Sends a body without an end until the server that is killed meanwhile is missed.
+void sendUntilBroken(GNetHandle* request, WebServer& server) {
+    ASSERT_EQ(sendRequest(request, nullptr, nullptr, -1), 1) << lastError();
     const std::string piece(100000, 'p');
-    ASSERT_EQ(writeFile(file, piece.data(), 100000, nullptr), 1);
-    server->process().end();
+    ASSERT_EQ(writeFile(request, piece.data(), 100000, nullptr), 1) << lastError();
+    server.process().end();
     int32_t written = -1;
-    while (writeFile(file, piece.data(), 100000, &written) == 1) { // until it has arrived here
+    while (writeFile(request, piece.data(), 100000, &written) == 1) {
     }
     EXPECT_EQ(lastError(), G_NET_BROKEN);
     EXPECT_GE(written, 0);
-    EXPECT_LT(written, 100000);
-    EXPECT_EQ(endRequest(file, 0), 0);
+    EXPECT_EQ(endRequest(request, 0), 0);
+}
+
+TEST_F(HttpFailure, BrokenSending) {
+    sendUntilBroken(request(u"PUT", u"/store/part.txt"), *server);
+}
+
+TEST_F(HttpFailure, BrokenSendingUnderTls) {
+    GNetHandle* const secure =
+        connectTo(session, u"127.0.0.1", server->securePort(), nullptr, nullptr, G_NET_HTTPS, 0);
+    sendUntilBroken(openRequest(secure, u"PUT", u"/store/part.txt", nullptr, nullptr, nullptr, 0),
+                    *server);
 }
 
 TEST_F(HttpFailure, BodyThatTheServerDoesNotWant) {
