@@ -24,9 +24,14 @@ uint8_t backgroundOf(const Workload& workload) {
     return workload.mode == Mode::And ? 0xFF : 0;
 }
 
+/// Whether the contenders' own rules for steps and outlines show.
+bool isCounted(Operation operation) {
+    return isLine(operation) || isShape(operation) || operation == Operation::ImageZoom;
+}
+
 std::optional<Picture> draw(Contender& contender, const Workload& workload, Canvas& canvas) {
-    const bool counted = isLine(workload.operation) || isShape(workload.operation);
-    const size_t count = isShape(workload.operation) ? 1 : kCountedLines;
+    const bool counted = isCounted(workload.operation);
+    const size_t count = isLine(workload.operation) ? kCountedLines : 1;
     const Shapes shapes = shapesOf(workload);
     const Pass pass = contender.prepare(workload, counted ? shapes.first(count) : shapes, canvas);
     if (!pass) {

@@ -43,7 +43,7 @@ inline Rule peerRule(const Workload& workload) {
     if (isLine(workload.operation)) {
         return Rule::Line;
     }
-    if (isShape(workload.operation)) {
+    if (isShape(workload.operation) || workload.operation == Operation::ImageZoom) {
         return Rule::Shape;
     }
     return workload.operation == Operation::Convert ? Rule::Channels : Rule::Same;

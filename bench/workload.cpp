@@ -1,7 +1,7 @@
 #include "workload.h"
 
 #include <algorithm>
-#include <iterator>
+#include <span>
 
 namespace bench {
 namespace {
@@ -91,6 +91,22 @@ const char* nameOf(Operation operation) {
         return "pie";
     case Operation::Bezier:
         return "bezier";
+    case Operation::Text:
+        return "text";
+    case Operation::OpaqueText:
+        return "opaquetext";
+    case Operation::Caption:
+        return "caption";
+    case Operation::Measure:
+        return "measure";
+    case Operation::Image:
+        return "image";
+    case Operation::ImageRight:
+        return "imageright";
+    case Operation::ImageLower:
+        return "imagelower";
+    case Operation::ImageZoom:
+        return "imagezoom";
     }
     return "";
 }
@@ -168,6 +184,23 @@ constexpr Shape kShapes[] = {
     {Operation::Bezier, {100, 100}},
 };
 
+constexpr Shape kTexts[] = {
+    {Operation::Text, {320, 16}},
+    {Operation::OpaqueText, {320, 16}},
+    {Operation::Caption, {320, 80}},
+    {Operation::Measure, {320, 16}},
+};
+constexpr Shape kImages[] = {
+    {Operation::Image, {200, 200}},      {Operation::ImageRight, {200, 200}},
+    {Operation::ImageLower, {200, 200}}, {Operation::ImageZoom, {300, 300}},
+    {Operation::ImageZoom, {100, 100}},
+};
+
+bool isOneOf(std::span<const Shape> shapes, Operation operation) {
+    return std::any_of(shapes.begin(), shapes.end(),
+                       [=](const Shape& shape) { return shape.operation == operation; });
+}
+
 void addCopied(std::vector<Workload>& list, Operation operation, Extent extent) {
     for (const Format format : kFormats) {
         list.push_back({operation, extent.width, extent.height, format, format, Mode::Copy, {}});
@@ -187,8 +220,12 @@ std::vector<Workload> allWorkloads() {
     addCopied(list, Operation::WideLine, {100, 100});
     addScrolls(list);
     addConversions(list);
-    for (const auto& [operation, extent] : kShapes) {
-        addCopied(list, operation, extent);
+    for (const std::span<const Shape> shapes :
+         {std::span<const Shape>(kShapes), std::span<const Shape>(kTexts),
+          std::span<const Shape>(kImages)}) {
+        for (const auto& [operation, extent] : shapes) {
+            addCopied(list, operation, extent);
+        }
     }
     return list;
 }
@@ -209,8 +246,15 @@ bool isLine(Operation operation) {
 }
 
 bool isShape(Operation operation) {
-    return std::any_of(std::begin(kShapes), std::end(kShapes),
-                       [=](const Shape& shape) { return shape.operation == operation; });
+    return isOneOf(kShapes, operation);
+}
+
+bool isText(Operation operation) {
+    return isOneOf(kTexts, operation);
+}
+
+bool isImage(Operation operation) {
+    return isOneOf(kImages, operation);
 }
 
 } // namespace bench

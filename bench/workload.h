@@ -32,6 +32,14 @@ enum class Operation {
     Arc, ///< thin
     Pie, ///< filled
     Bezier,
+    Text,       ///< a line of 40 glyphs of 8 x 16 pixels
+    OpaqueText, ///< the same with its background
+    Caption,    ///< five centred lines of such glyphs
+    Measure,    ///< the width of a line, nothing drawn
+    Image,      ///< of runs, half of it transparent
+    ImageRight, ///< the right half of the image; the left one is clipped away
+    ImageLower, ///< the lower half
+    ImageZoom,  ///< the image enlarged or reduced
 };
 
 /// How a source combines with what is there, byte by byte.
@@ -61,8 +69,12 @@ std::string nameOf(const Workload& workload);
 
 bool isLine(Operation operation);
 
-/// Everything that is neither a rectangle nor a line.
+/// Everything with an outline that is neither a rectangle nor a line.
 bool isShape(Operation operation);
+
+bool isText(Operation operation);
+
+bool isImage(Operation operation);
 
 /// Pixels on and off of a dashed line.
 inline constexpr int kDash = 8;

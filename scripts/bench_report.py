@@ -9,11 +9,15 @@ LIMIT = "limit"
 # A difference below this is a tie: two runs of one contender differ as much.
 TIE = 1.05
 
+# Glyphs of a line of text.
+GLYPHS = 40
+
 BEGIN = "<!-- tables: scripts/bench --write-docs -->"
 END = "<!-- end of tables -->"
 
 # Orders of the columns that name a workload.
-SIZES = ["8", "16", "32", "98", "100", "101", "201", "400", "full", "up", "down", "left", "right"]
+SIZES = ["8", "16", "32", "98", "100", "101", "200", "201", "300", "320", "400", "full", "up",
+         "down", "left", "right"]
 MODES = ["copy", "and", "or", "xor"]
 
 TITLES = {
@@ -39,6 +43,14 @@ TITLES = {
     "transfer": "Block transfers",
     "scroll": "Scrolls by one pixel",
     "convert": "Conversions between formats",
+    "text": "Lines of 40 glyphs of 8 x 16",
+    "opaquetext": "The same with their background",
+    "caption": "Captions of five such lines, 168 glyphs",
+    "measure": "The width of 40 glyphs",
+    "image": "Images of runs, half of them transparent",
+    "imageright": "The right half of such an image",
+    "imagelower": "The lower half",
+    "imagezoom": "Stretched images",
 }
 
 
@@ -126,6 +138,11 @@ class Report:
         copy = self.rows.get((row.operation, row.size, row.format, "copy"))
         return ratio(row.ours, copy.ours) if copy and row.mode != "copy" else None
 
+    def to_whole(self, row):
+        """A clipped image beside the whole one."""
+        whole = self.rows.get(("image", row.size, row.format, row.mode))
+        return ratio(row.ours, whole.ours) if whole else None
+
     def aims(self):
         def collect(chosen, value):
             ratios = {row.name: value(row) for row in self.rows.values() if chosen(row)}
@@ -167,6 +184,13 @@ class Report:
                         lambda row: ratio(row.ours, min(
                             (row.times[name] for name in ("qt5", "qt5-avx2") if name in row.times),
                             default=None)))),
+            Aim("nanoseconds for a glyph of a line", 35,
+                collect(lambda row: row.operation in ("text", "opaquetext"),
+                        lambda row: row.ours and row.ours / GLYPHS)),
+            Aim("image of runs / memcpy of the opaque ones", 1.3,
+                collect(lambda row: row.operation == "image", lambda row: row.to_limit)),
+            Aim("half an image / the whole", 1.0,
+                collect(lambda row: row.operation in ("imageright", "imagelower"), self.to_whole)),
         ]
 
     def machine(self):

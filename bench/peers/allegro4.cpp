@@ -1,6 +1,8 @@
 // Allegro 4 memory bitmaps.
 #include "contender.h"
+#include "image.h"
 #include "outlines.h"
+#include "text.h"
 
 #define ALLEGRO_NO_MAGIC_MAIN
 #include <allegro.h>
@@ -192,6 +194,84 @@ Pass shape(const Workload& workload, const Shapes& shapes, const Bitmap& target)
     }
 }
 
+/// Allegro finds the glyphs of a font in a picture of them, in cells with edges of colour 255. Its
+/// fonts begin at the space.
+std::shared_ptr<FONT> makeFont() {
+    constexpr int kEdge = 255;
+    constexpr int kColumns = 16;
+    constexpr int kRows = 6;
+    const Bitmap cells = makeBitmap(kColumns * (kGlyphWidth + 1) + 1,
+                                    kRows * (kGlyphHeight + 1) + 1, Format::Palette8);
+    clear_to_color(cells.get(), kEdge);
+    for (char letter = ' '; letter <= kLastLetter; ++letter) {
+        const int left = 1 + (letter - ' ') % kColumns * (kGlyphWidth + 1);
+        const int top = 1 + (letter - ' ') / kColumns * (kGlyphHeight + 1);
+        for (int y = 0; y < kGlyphHeight; ++y) {
+            const uint8_t row = letter == ' ' ? 0 : glyphOf(letter)[static_cast<size_t>(y)];
+            for (int x = 0; x < kGlyphWidth; ++x) {
+                putpixel(cells.get(), left + x, top + y, row >> (kGlyphWidth - 1 - x) & 1);
+            }
+        }
+    }
+    FONT* font = grab_font_from_bitmap(cells.get());
+    if (font == nullptr || text_length(font, "A") != kGlyphWidth) {
+        throw std::runtime_error("allegro: no font");
+    }
+    return {font, destroy_font};
+}
+
+Pass text(const Workload& workload, const Shapes& shapes, const Bitmap& target) {
+    const auto font = makeFont();
+    const auto lines = linesOf(workload);
+    if (workload.operation == Operation::Measure) {
+        return atPlaces(
+            shapes, [=](const Place&) { text_length(font.get(), lines.front().letters.c_str()); });
+    }
+    constexpr int kNoBackground = -1;
+    const int color = static_cast<int>(foreOf(workload.format));
+    const int background = workload.operation == Operation::OpaqueText
+                               ? static_cast<int>(backOf(workload.format))
+                               : kNoBackground;
+    return atPlaces(shapes, [=](const Place& place) {
+        for (const TextLine& line : lines) {
+            textout_ex(target.get(), font.get(), line.letters.c_str(), place.x + line.x,
+                       place.y + line.y, color, background);
+        }
+    });
+}
+
+/// The image with Allegro's colour for transparent pixels.
+Bitmap imageBitmap(const Workload& workload) {
+    const Bitmap bitmap = makeBitmap(kImageSize, kImageSize, workload.format);
+    const std::vector<uint32_t> pixels = imagePixels(workload);
+    const int transparent = bitmap_mask_color(bitmap.get());
+    for (int i = 0; i < kImageSize * kImageSize; ++i) {
+        const uint32_t pixel = pixels[static_cast<size_t>(i)];
+        putpixel(bitmap.get(), i % kImageSize, i / kImageSize,
+                 pixel == kTransparent ? transparent : static_cast<int>(pixel));
+    }
+    return bitmap;
+}
+
+Pass image(const Workload& workload, const Shapes& shapes, const Bitmap& target) {
+    const Bitmap bitmap = imageBitmap(workload);
+    if (workload.operation == Operation::ImageZoom) {
+        return atPlaces(shapes, [=, w = workload.width, h = workload.height](const Place& place) {
+            stretch_sprite(target.get(), bitmap.get(), place.x, place.y, w, h);
+        });
+    }
+    const std::shared_ptr<RLE_SPRITE> sprite(get_rle_sprite(bitmap.get()), destroy_rle_sprite);
+    const Part part = partOf(workload);
+    const bool clipped = workload.operation != Operation::Image;
+    return atPlaces(shapes, [=](const Place& place) {
+        if (clipped) {
+            set_clip_rect(target.get(), place.x + part.left, place.y + part.top,
+                          place.x + part.right, place.y + part.bottom);
+        }
+        draw_rle_sprite(target.get(), sprite.get(), place.x, place.y);
+    });
+}
+
 class Allegro4 final : public Contender {
   public:
     Allegro4() {
@@ -246,8 +326,13 @@ class Allegro4 final : public Contender {
         case Operation::Transfer:
             return transfer(workload, shapes, bitmapOn(canvas.source(), workload.source), target);
         default:
-            return shape(workload, shapes, target);
+            break;
         }
+        if (isText(workload.operation)) {
+            return text(workload, shapes, target);
+        }
+        return isImage(workload.operation) ? image(workload, shapes, target)
+                                           : shape(workload, shapes, target);
     }
 
     /// Bytes are palette indices only, and six bits a channel are too few for 24 bits a pixel.

@@ -192,11 +192,10 @@ class Cairo final : public Contender {
         case Operation::Transfer:
             return transfer(workload, shapes, context,
                             surfaceOn(canvas.source(), kWidth, kHeight, workload.source));
-        case Operation::Scroll:
-        case Operation::LineTo:
-        case Operation::Convert:
-            return {};
         default:
+            if (!isShape(workload.operation)) {
+                return {};
+            }
             return isPolygon(workload.operation) ? polygons(workload, shapes, context)
                                                  : curves(workload, shapes, context);
         }

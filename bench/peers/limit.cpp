@@ -1,8 +1,10 @@
 // The limit: what the C library's memory calls need for the same bytes, row by row as any drawing
-// on a surface has to go. Filled shapes have their spans worked out beforehand, lines their
-// addresses.
+// on a surface has to go. Filled shapes have their spans worked out beforehand, lines and text
+// their addresses, images their opaque runs.
 #include "contender.h"
+#include "image.h"
 #include "outlines.h"
+#include "text.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -13,7 +15,6 @@ namespace bench {
 namespace {
 
 struct Row {
-    Operation operation;
     size_t bytes;  ///< that one row of a shape covers
     size_t stride; ///< of the surface
     int height;
@@ -133,10 +134,65 @@ Pass storeLines(const Row& row, const Shapes& shapes, uint8_t* pixels) {
     };
 }
 
+/// Every set pixel of the glyphs.
 template <int PixelBytes>
-Pass storePixels(const Row& row, const Shapes& shapes, uint8_t* pixels) {
-    return row.operation == Operation::Column ? storeColumn<PixelBytes>(row, shapes, pixels)
-                                              : storeLines<PixelBytes>(row, shapes, pixels);
+Pass storeText(const Workload& workload, const Row& row, const Shapes& shapes, uint8_t* pixels) {
+    std::vector<uint32_t> offsets;
+    for (const TextLine& line : linesOf(workload)) {
+        int left = line.x;
+        for (const char letter : line.letters) {
+            for (int i = 0; i < kGlyphWidth * kGlyphHeight; ++i) {
+                const int x = i % kGlyphWidth;
+                const int y = i / kGlyphWidth;
+                if ((glyphOf(letter)[static_cast<size_t>(y)] >> (kGlyphWidth - 1 - x) & 1) != 0) {
+                    offsets.push_back(static_cast<uint32_t>(row.offset(left + x, line.y + y)));
+                }
+            }
+            left += kGlyphWidth;
+        }
+    }
+    return atPlaces(shapes, [=](const Place& place) {
+        uint8_t* const corner = pixels + row.offset(place.x, place.y);
+        for (const uint32_t offset : offsets) {
+            store<PixelBytes>(corner + offset, row.pixel);
+        }
+    });
+}
+
+template <int PixelBytes>
+Pass storePixels(const Workload& workload, const Row& row, const Shapes& shapes, uint8_t* pixels) {
+    if (isText(workload.operation)) {
+        return storeText<PixelBytes>(workload, row, shapes, pixels);
+    }
+    return workload.operation == Operation::Column ? storeColumn<PixelBytes>(row, shapes, pixels)
+                                                   : storeLines<PixelBytes>(row, shapes, pixels);
+}
+
+/// The opaque runs that show, one memcpy each.
+Pass copyRuns(const Workload& workload, const Row& row, const Shapes& shapes, uint8_t* pixels,
+              const uint8_t* source) {
+    struct Piece {
+        size_t offset;
+        size_t bytes;
+    };
+    const Part part = partOf(workload);
+    std::vector<Piece> pieces;
+    for (const Run& run : imageRuns()) {
+        const int left = std::max(run.left, part.left);
+        const int right = std::min(run.right, part.right);
+        if (left <= right && run.y >= part.top && run.y <= part.bottom) {
+            pieces.push_back({row.offset(left, run.y),
+                              static_cast<size_t>((right - left + 1) * row.pixelBytes)});
+        }
+    }
+    return atPlaces(shapes, [=](const Place& place) {
+        uint8_t* const corner = pixels + row.offset(place.x, place.y);
+        const uint8_t* from = source;
+        for (const auto& [offset, bytes] : pieces) {
+            std::memcpy(corner + offset, from, bytes);
+            from += bytes;
+        }
+    });
 }
 
 class Limit final : public Contender {
@@ -146,8 +202,7 @@ class Limit final : public Contender {
     Rule rule(const Workload&) const override { return Rule::Amount; }
 
     Pass prepare(const Workload& workload, const Shapes& shapes, Canvas& canvas) override {
-        if (workload.mode != Mode::Copy || workload.operation == Operation::Dash ||
-            workload.operation == Operation::WideLine) {
+        if (workload.mode != Mode::Copy) {
             return {};
         }
         const Row row = rowOf(workload);
@@ -156,10 +211,20 @@ class Limit final : public Contender {
             return runs.empty() ? Pass() : fillRuns(row, runs, shapes, canvas.pixels());
         }
         switch (workload.operation) {
+        case Operation::Dash:
+        case Operation::WideLine:
+        case Operation::Measure:
+        case Operation::ImageZoom:
+            return {};
         case Operation::Fill:
         case Operation::Pattern:
         case Operation::Span:
             return fillRows(row, shapes, canvas.pixels());
+        case Operation::Image:
+        case Operation::ImageRight:
+        case Operation::ImageLower:
+            return copyRuns(workload, row, shapes, canvas.pixels(), canvas.source());
+        case Operation::OpaqueText:
         case Operation::Transfer:
         case Operation::Convert:
             return copyRows(row, shapes, canvas.pixels(), canvas.source());
@@ -168,9 +233,9 @@ class Limit final : public Contender {
         default:
             break;
         }
-        constexpr Pass (*kStores[])(const Row&, const Shapes&, uint8_t*) = {
+        constexpr Pass (*kStores[])(const Workload&, const Row&, const Shapes&, uint8_t*) = {
             nullptr, storePixels<1>, storePixels<2>, storePixels<3>};
-        return kStores[row.pixelBytes](row, shapes, canvas.pixels());
+        return kStores[row.pixelBytes](workload, row, shapes, canvas.pixels());
     }
 
   private:
@@ -180,12 +245,8 @@ class Limit final : public Contender {
                                   ? workload.source
                                   : workload.format;
         const int size = bytesPerPixel(format);
-        return {workload.operation,
-                static_cast<size_t>(workload.width * size),
-                static_cast<size_t>(bytesPerLine(format)),
-                workload.height,
-                size,
-                foreOf(format)};
+        return {static_cast<size_t>(workload.width * size),
+                static_cast<size_t>(bytesPerLine(format)), workload.height, size, foreOf(format)};
     }
 };
 

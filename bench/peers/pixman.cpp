@@ -1,7 +1,10 @@
 // Pixman: pixman_fill where it has the format, boxes and composites elsewhere.
 #include "contender.h"
+#include "text.h"
 
 #include <pixman.h>
+
+#include <array>
 
 #include <stdexcept>
 
@@ -59,13 +62,16 @@ Pass fillWords(const Workload& workload, const Shapes& shapes, uint8_t* pixels) 
     });
 }
 
-Pass fillBoxes(const Workload& workload, const Shapes& shapes, const Image& target) {
+pixman_color_t colorOf(const Workload& workload) {
     const Masks masks = masksOf(workload.format);
-    const uint32_t pixel = foreOf(workload.format);
-    const auto wide = [=](uint32_t mask) {
+    const auto wide = [pixel = foreOf(workload.format)](uint32_t mask) {
         return static_cast<uint16_t>(channelOf(pixel, mask) * 0x101);
     };
-    const pixman_color_t color = {wide(masks.red), wide(masks.green), wide(masks.blue), 0xFFFF};
+    return {wide(masks.red), wide(masks.green), wide(masks.blue), 0xFFFF};
+}
+
+Pass fillBoxes(const Workload& workload, const Shapes& shapes, const Image& target) {
+    const pixman_color_t color = colorOf(workload);
     return atPlaces(shapes, [=, w = workload.width, h = workload.height](const Place& place) {
         const pixman_box32_t box = {place.x, place.y, place.x + w, place.y + h};
         pixman_image_fill_boxes(PIXMAN_OP_SRC, target.get(), &color, 1, &box);
@@ -97,6 +103,59 @@ Pass transfer(const Workload& workload, const Shapes& shapes, const Image& sourc
     });
 }
 
+/// A cache of all glyphs, as masks of eight bits: those it serves best.
+class Glyphs {
+  public:
+    Glyphs() : cache_(pixman_glyph_cache_create()) {
+        pixman_glyph_cache_freeze(cache_);
+        for (char letter = kFirstLetter; letter <= kLastLetter; ++letter) {
+            std::array<uint8_t, kGlyphWidth * kGlyphHeight> mask;
+            for (size_t i = 0; i < mask.size(); ++i) {
+                const int shift = kGlyphWidth - 1 - static_cast<int>(i) % kGlyphWidth;
+                const bool set = (glyphOf(letter)[i / kGlyphWidth] >> shift & 1) != 0;
+                mask[i] = set ? 0xFF : 0;
+            }
+            const Image image = imageOn(mask.data(), kGlyphWidth, kGlyphHeight, PIXMAN_a8);
+            const size_t key = static_cast<size_t>(letter);
+            glyphs_[key] =
+                pixman_glyph_cache_insert(cache_, this, &glyphs_[key], 0, 0, image.get());
+        }
+    }
+    ~Glyphs() {
+        pixman_glyph_cache_thaw(cache_);
+        pixman_glyph_cache_destroy(cache_);
+    }
+    Glyphs(const Glyphs&) = delete;
+    Glyphs& operator=(const Glyphs&) = delete;
+
+    pixman_glyph_cache_t* cache() { return cache_; }
+    const void* operator[](char letter) const { return glyphs_[static_cast<size_t>(letter)]; }
+
+  private:
+    pixman_glyph_cache_t* cache_;
+    std::array<const void*, 128> glyphs_{};
+};
+
+/// All lines by one call, as a program that has laid them out beforehand would.
+Pass text(const Workload& workload, const Shapes& shapes, const Image& target) {
+    const auto cached = std::make_shared<Glyphs>();
+    std::vector<pixman_glyph_t> glyphs;
+    for (const TextLine& line : linesOf(workload)) {
+        int x = line.x;
+        for (const char letter : line.letters) {
+            glyphs.push_back({x, line.y, (*cached)[letter]});
+            x += kGlyphWidth;
+        }
+    }
+    const pixman_color_t color = colorOf(workload);
+    const Image source(pixman_image_create_solid_fill(&color), pixman_image_unref);
+    return atPlaces(shapes, [=](const Place& place) {
+        pixman_composite_glyphs_no_mask(PIXMAN_OP_OVER, source.get(), target.get(), 0, 0, place.x,
+                                        place.y, cached->cache(), static_cast<int>(glyphs.size()),
+                                        glyphs.data());
+    });
+}
+
 class Pixman final : public Contender {
   public:
     std::string_view name() const override { return "pixman"; }
@@ -117,6 +176,10 @@ class Pixman final : public Contender {
             return fill(workload, shapes, target, canvas.pixels());
         case Operation::Pattern:
             return pattern(workload, shapes, target);
+        case Operation::Text:
+        case Operation::Caption:
+            // On bytes it would blend alpha rather than set a colour.
+            return workload.format == Format::Rgb332 ? Pass() : text(workload, shapes, target);
         case Operation::Transfer:
         case Operation::Convert: {
             const Image source =

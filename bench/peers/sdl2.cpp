@@ -3,9 +3,17 @@
 // SDL_FillRect stores past the cache wherever SSE is present, which costs a rectangle that is in
 // the cache much of its time; SDL offers no way to choose otherwise. Lines are flushed one by one,
 // as a line that has to be seen is.
+//
+// SDL has no text of its own: its fonts come as surfaces, so a glyph is one, run-length encoded
+// with a transparent colour, or a plain one where the background is drawn too. Images are encoded
+// alike.
 #include "contender.h"
+#include "image.h"
+#include "text.h"
 
 #include <SDL.h>
+
+#include <array>
 
 #include <stdexcept>
 #include <string>
@@ -93,6 +101,82 @@ Pass lines(const Workload& workload, const Shapes& shapes, const Surface& target
     });
 }
 
+/// A surface of its own with these pixels; transparent ones are left out when it is drawn.
+Surface encoded(const std::vector<uint8_t>& bytes, int width, int height, Format format) {
+    const Surface surface(SDL_CreateRGBSurfaceWithFormat(
+                              0, width, height, 8 * bytesPerPixel(format), sdlFormat(format)),
+                          SDL_FreeSurface);
+    const auto row = static_cast<size_t>(width * bytesPerPixel(format));
+    for (int y = 0; y < height; ++y) {
+        std::copy_n(bytes.data() + static_cast<size_t>(y) * row, row,
+                    static_cast<uint8_t*>(surface->pixels) + y * surface->pitch);
+    }
+    SDL_SetColorKey(surface.get(), SDL_TRUE, kTransparent);
+    SDL_SetSurfaceRLE(surface.get(), 1);
+    return surface;
+}
+
+Surface glyphSurface(char letter, Format format, bool opaque) {
+    std::vector<uint8_t> bytes;
+    for (const uint8_t row : glyphOf(letter)) {
+        for (int x = 0; x < kGlyphWidth; ++x) {
+            const bool set = (row >> (kGlyphWidth - 1 - x) & 1) != 0;
+            const uint32_t clear = opaque ? backOf(format) : kTransparent;
+            const uint32_t pixel = set ? foreOf(format) : clear;
+            for (int byte = 0; byte < bytesPerPixel(format); ++byte) {
+                bytes.push_back(static_cast<uint8_t>(pixel >> (8 * byte)));
+            }
+        }
+    }
+    const Surface glyph = encoded(bytes, kGlyphWidth, kGlyphHeight, format);
+    if (opaque) {
+        SDL_SetSurfaceRLE(glyph.get(), 0);
+        SDL_SetColorKey(glyph.get(), SDL_FALSE, 0);
+    }
+    return glyph;
+}
+
+Pass text(const Workload& workload, const Shapes& shapes, const Surface& target) {
+    const bool opaque = workload.operation == Operation::OpaqueText;
+    auto glyphs = std::make_shared<std::array<Surface, 128>>();
+    for (char letter = kFirstLetter; letter <= kLastLetter; ++letter) {
+        (*glyphs)[static_cast<size_t>(letter)] = glyphSurface(letter, workload.format, opaque);
+    }
+    return atPlaces(shapes, [=, lines = linesOf(workload)](const Place& place) {
+        for (const TextLine& line : lines) {
+            int x = place.x + line.x;
+            for (const char letter : line.letters) {
+                SDL_Rect to = {x, place.y + line.y, kGlyphWidth, kGlyphHeight};
+                SDL_BlitSurface((*glyphs)[static_cast<size_t>(letter)].get(), nullptr, target.get(),
+                                &to);
+                x += kGlyphWidth;
+            }
+        }
+    });
+}
+
+Pass image(const Workload& workload, const Shapes& shapes, const Surface& target) {
+    const Surface source = encoded(imageBytes(workload), kImageSize, kImageSize, workload.format);
+    if (workload.operation == Operation::ImageZoom) {
+        SDL_SetSurfaceRLE(source.get(), 0); // it would be decoded for each call
+        return atPlaces(shapes, [=, w = workload.width, h = workload.height](const Place& place) {
+            SDL_Rect to = {place.x, place.y, w, h};
+            SDL_BlitScaled(source.get(), nullptr, target.get(), &to);
+        });
+    }
+    const Part part = partOf(workload);
+    const bool clipped = workload.operation != Operation::Image;
+    return atPlaces(shapes, [=](const Place& place) {
+        if (clipped) {
+            const SDL_Rect clip = {place.x + part.left, place.y + part.top,
+                                   part.right - part.left + 1, part.bottom - part.top + 1};
+            SDL_SetClipRect(target.get(), &clip);
+        }
+        SDL_Rect to = {place.x, place.y, kImageSize, kImageSize};
+        SDL_BlitSurface(source.get(), nullptr, target.get(), &to);
+    });
+}
+
 class Sdl2 final : public Contender {
   public:
     std::string_view name() const override { return "sdl2"; }
@@ -117,8 +201,12 @@ class Sdl2 final : public Contender {
             return transfer(workload, shapes, surfaceOn(canvas.source(), workload.source), target);
         case Operation::Scroll:
             return scroll(workload, shapes, target);
+        case Operation::Text:
+        case Operation::OpaqueText:
+        case Operation::Caption:
+            return text(workload, shapes, target);
         default:
-            return {};
+            return isImage(workload.operation) ? image(workload, shapes, target) : Pass();
         }
     }
 };

@@ -1,5 +1,8 @@
 // The smallest platform that the library draws on: memory, one display of a single pixel for
-// handles to open on, and a block transfer that memory surfaces never reach.
+// handles to open on, a block transfer that memory surfaces never reach, and glyphs that are there
+// ready.
+#include "text.h"
+
 #include <gpi/gpi.h>
 
 #include <cstdint>
@@ -37,6 +40,19 @@ int32_t transferBlock(GDrawHandle*, const GVram*, int16_t, int16_t, int16_t, int
     return 0;
 }
 
+int32_t glyph(GFontRecord*, GGlyphRequest* request) {
+    const char16_t unit = *request->text;
+    if (unit < bench::kFirstLetter || unit > bench::kLastLetter) {
+        return 0;
+    }
+    request->next = request->text + 1;
+    request->width = bench::kGlyphWidth;
+    request->height = bench::kGlyphHeight;
+    request->bitsPerPixel = 1;
+    request->bits = bench::glyphOf(static_cast<char>(unit)).data();
+    return 1;
+}
+
 template <typename Service>
 GPIFunction asFunction(Service* service) {
     return reinterpret_cast<GPIFunction>(service);
@@ -50,6 +66,8 @@ GPIFunction GPIGetService(int32_t number) {
         return asFunction(displaySurface);
     case GPI_SERVICE_BLOCK_TRANSFER:
         return asFunction(transferBlock);
+    case GPI_SERVICE_GLYPH:
+        return asFunction(glyph);
     case GPI_SERVICE_MEMORY_ALLOC:
         return asFunction(allocate);
     case GPI_SERVICE_MEMORY_FREE:

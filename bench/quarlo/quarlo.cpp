@@ -1,7 +1,9 @@
 // The library through its public calls, on memory surfaces attached to draw handles.
 #include "contender.h"
 #include "outlines.h"
+#include "quarlo/contents.h"
 
+#include <quarlo/clip.h>
 #include <quarlo/draw.h>
 #include <quarlo/handle.h>
 #include <quarlo/platform.h>
@@ -205,7 +207,7 @@ bool isDrawnWithPen(Operation operation) {
     case Operation::Bezier:
         return true;
     default:
-        return isLine(operation);
+        return isLine(operation) || isText(operation);
     }
 }
 
@@ -240,6 +242,12 @@ class Quarlo final : public Contender {
         default:
             break;
         }
+        if (isText(workload.operation)) {
+            return textPass(workload, shapes, handle);
+        }
+        if (isImage(workload.operation)) {
+            return imagePass(workload, shapes, handle);
+        }
         return isPolygon(workload.operation) ? polygons(workload, shapes, handle)
                                              : curves(workload, shapes, handle);
     }
@@ -255,10 +263,14 @@ class Quarlo final : public Contender {
 
     static void setState(GDrawHandle* handle, const Workload& workload) {
         const bool draws = isDrawnWithPen(workload.operation);
+        const bool opaque = workload.operation == Operation::OpaqueText;
         const int16_t pen = workload.operation == Operation::WideLine ? kWidePen : 1;
         GDSetDrawingMode(handle, static_cast<int>(workload.mode));
         GDSetFillColor(handle, foreOf(workload.format), backOf(workload.format));
         GDSetPenColor(handle, draws ? foreOf(workload.format) : G_NO_COLOR);
+        GDSetBackColor(handle, backOf(workload.format));
+        GDSetTextMode(handle, opaque ? 0 : G_TEXT_TRANSPARENT);
+        GDSetClipRect(handle, nullptr);
         GDSetPenSize(handle, pen, pen);
         GDSetPenDash(handle, workload.operation == Operation::Dash ? kDashNumber : 0);
         GDSetFillPattern(handle, workload.operation == Operation::Pattern ? kPatternNumber
