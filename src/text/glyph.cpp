@@ -8,27 +8,55 @@
 namespace quarlo {
 namespace {
 
-/// The visible part of a glyph's box, and where the box lies.
+/// The visible part of a glyph's box, both ends included, and where the box lies.
 struct VisibleGlyph {
     const GGlyphRequest& glyph;
     GPoint origin;
-    GRect area;
+    int32_t left;
+    int32_t top;
+    int32_t right;
+    int32_t bottom;
 
-    int32_t firstColumn() const { return area.left - origin.x; }
+    VisibleGlyph(const GGlyphRequest& request, const GPoint& at, const GRect& limit)
+        : glyph(request),
+          origin(at),
+          left(std::max(at.x, limit.left)),
+          top(std::max(at.y, limit.top)),
+          right(std::min<int32_t>(at.x + request.width - 1, limit.right)),
+          bottom(std::min<int32_t>(at.y + request.height - 1, limit.bottom)) {}
+
+    bool isEmpty() const { return left > right || top > bottom; }
+    GRect area() const { return {low16(left), low16(top), low16(right), low16(bottom)}; }
+    int32_t firstColumn() const { return left - origin.x; }
     const uint8_t* row(int32_t y) const {
         return glyph.bits + (y - origin.y) * ptrdiff_t{rowBytes(glyph)};
     }
 };
 
-void blitByKernel(const Canvas& canvas, const VisibleGlyph& visible, uint32_t pixel) {
-    const GRect& area = visible.area;
-    const kernel::GlyphBits bits{visible.row(area.top), rowBytes(visible.glyph),
+/// What a glyph is drawn in. Colours of -1 draw nothing.
+struct GlyphColors {
+    uint32_t fore;
+    uint32_t back;
+
+    explicit GlyphColors(const GDrawHandle& handle)
+        : fore(handle.penPixel),
+          back((handle.textMode & G_TEXT_TRANSPARENT) == 0 ? handle.backPixel : G_NO_COLOR) {}
+};
+
+void drawByKernel(const Canvas& canvas, const VisibleGlyph& visible, const GlyphColors& colors) {
+    const kernel::Kernels& kernels = *canvas.kernels;
+    const kernel::GlyphBits bits{visible.row(visible.top), rowBytes(visible.glyph),
                                  visible.glyph.bitsPerPixel, visible.firstColumn()};
-    uint8_t* const end =
-        canvas.kernels->glyph(canvas.addressOf(area.left, area.top), canvas.surface.bytesPerLine,
-                              bits, widthOf(area), heightOf(area), pixel);
+    const bool opaque = colors.back != G_NO_COLOR;
+    const auto draw = opaque ? kernels.opaqueGlyph : kernels.transparentGlyph;
+    uint8_t* const end = draw(canvas.addressOf(visible.left, visible.top),
+                              canvas.surface.bytesPerLine, bits, visible.right - visible.left + 1,
+                              visible.bottom - visible.top + 1, colors.fore, colors.back);
     if (end != nullptr) {
-        canvas.leaveCell(pixel, end);
+        canvas.leaveCell(colors.fore, end);
+    } else if (opaque) {
+        canvas.leaveCell(colors.back,
+                         canvas.addressOf(visible.right, visible.bottom) + kernels.bytesPerPixel);
     }
 }
 
@@ -47,12 +75,11 @@ void plot(const Canvas& canvas, int32_t x, int32_t y, uint32_t pixel, int32_t bi
 }
 
 void blitBySlots(const Canvas& canvas, const VisibleGlyph& visible, uint32_t pixel) {
-    const GRect& area = visible.area;
     const int32_t bits = visible.glyph.bitsPerPixel;
-    for (int32_t y = area.top; y <= area.bottom; ++y) {
+    for (int32_t y = visible.top; y <= visible.bottom; ++y) {
         const uint8_t* const row = visible.row(y);
         int32_t bit = visible.firstColumn() * bits;
-        for (int32_t x = area.left; x <= area.right; ++x, bit += bits) {
+        for (int32_t x = visible.left; x <= visible.right; ++x, bit += bits) {
             const uint32_t byte = row[bit >> 3];
             const uint32_t value = byte >> (8 - (bit & 7) - bits) & ((1U << bits) - 1);
             if (value != 0) {
@@ -62,27 +89,30 @@ void blitBySlots(const Canvas& canvas, const VisibleGlyph& visible, uint32_t pix
     }
 }
 
-void blit(const Canvas& canvas, const VisibleGlyph& visible) {
-    const uint32_t pixel = canvas.handle.penPixel;
-    if (pixel == G_NO_COLOR || visible.glyph.bits == nullptr) {
+/// Set pixels over the background, one way or the other.
+void draw(const Canvas& canvas, const VisibleGlyph& visible) {
+    const GlyphColors colors(canvas.handle);
+    const bool hasPixels = colors.fore != G_NO_COLOR && visible.glyph.bits != nullptr;
+    if (hasPixels && canvas.kernels != nullptr) {
+        drawByKernel(canvas, visible, colors);
         return;
     }
-    if (canvas.kernels != nullptr) {
-        blitByKernel(canvas, visible, pixel);
-    } else {
-        blitBySlots(canvas, visible, pixel);
-    }
-}
-
-void fillBackground(const Canvas& canvas, const GRect& area) {
-    const GDrawHandle& handle = canvas.handle;
-    if ((handle.textMode & G_TEXT_TRANSPARENT) == 0 && handle.backPixel != G_NO_COLOR) {
-        fillRect(canvas, area, handle.backPixel, handle.drawingMode);
+    fillRect(canvas, visible.area(), colors.back, canvas.handle.drawingMode);
+    if (hasPixels) {
+        blitBySlots(canvas, visible, colors.fore);
     }
 }
 
 /// Takes the pen on by a glyph's width, by way of the surface. Where the glyph begins there.
 GPoint advancePen(GDrawHandle& handle, int32_t width) {
+    if (!isVirtual(handle)) {
+        // There and back is a move of x alone. A pen that is written in halves and read whole for
+        // the next glyph would wait for both to leave the processor's store buffer.
+        const int32_t x = handle.penPos.x;
+        const int32_t y = handle.penPos.y;
+        handle.penPos.x = low16(x + width);
+        return {low16(x - handle.localOrigin.x), low16(y - handle.localOrigin.y)};
+    }
     GPoint origin = handle.penPos;
     mapToScreen(handle, origin);
     GPoint next{low16(origin.x + width), origin.y};
@@ -104,16 +134,10 @@ void drawGlyph(const Canvas& canvas, const GGlyphRequest& glyph) {
     if (!hasBitmap(glyph)) {
         return;
     }
-    const GRect& limit = canvas.area;
-    const int32_t right = std::min<int32_t>(origin.x + glyph.width - 1, limit.right);
-    const int32_t bottom = std::min<int32_t>(origin.y + glyph.height - 1, limit.bottom);
-    const GRect area{std::max(origin.x, limit.left), std::max(origin.y, limit.top), low16(right),
-                     low16(bottom)};
-    if (!isValid(area)) {
-        return;
+    const VisibleGlyph visible(glyph, origin, canvas.area);
+    if (!visible.isEmpty()) {
+        draw(canvas, visible);
     }
-    fillBackground(canvas, area);
-    blit(canvas, {glyph, origin, area});
 }
 
 } // namespace quarlo

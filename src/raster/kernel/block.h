@@ -10,6 +10,9 @@ namespace quarlo::kernel {
 /// 16 bytes that the compiler keeps in one register where the processor has such.
 using Block = uint8_t __attribute__((vector_size(16)));
 
+/// The same of 8 bytes.
+using HalfBlock = uint8_t __attribute__((vector_size(8)));
+
 inline constexpr size_t kBlock = sizeof(Block);
 
 template <typename Word>

@@ -1,125 +1,119 @@
-// Glyph bitmaps: the pixels of a bitmap that are not clear, in one colour.
+// Glyph bitmaps: the pixels of a bitmap that are not clear, in one colour, and the others in
+// another or as they are.
 #pragma once
 
+#include "raster/kernel/block.h"
+#include "raster/kernel/fill.h"
 #include "raster/kernel/format.h"
+#include "raster/kernel/glyph_strip.h"
 #include "raster/kernel/kernels.h"
+#include "raster/kernel/row_color.h"
 
 #include <algorithm>
-#include <array>
-#include <bit>
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
+#include <type_traits>
 
 namespace quarlo::kernel {
 
-/// Eight pixels of a bitmap row as bits, the leftmost in bit 7. Reads no byte that holds none of
-/// the `count` pixels, 1 to 8, from `first` on; the bits behind them are clear.
-class GlyphRow {
-  public:
-    GlyphRow(const uint8_t* bytes, int32_t bitsPerPixel) : bytes_(bytes), bits_(bitsPerPixel) {}
-
-    uint32_t pixels(int32_t first, int32_t count) const {
-        uint32_t set = 0;
-        if (bits_ == 1) {
-            const uint8_t* const at = bytes_ + (first >> 3);
-            const int32_t shift = first & 7;
-            set = uint32_t{at[0]} << shift;
-            if (shift + count > 8) {
-                set |= uint32_t{at[1]} >> (8 - shift);
-            }
-        } else {
-            for (int32_t i = 0; i < count; ++i) {
-                set |= isSet(first + i) ? 0x80U >> i : 0;
-            }
-        }
-        return set & (0xFF00U >> count) & 0xFF;
-    }
-
-  private:
-    bool isSet(int32_t pixel) const {
-        const int32_t bit = pixel * bits_;
-        const uint32_t mask = (0xFF00U >> bits_) & 0xFF;
-        return (uint32_t{bytes_[bit >> 3]} << (bit & 7) & mask) != 0;
-    }
-
-    const uint8_t* bytes_;
-    int32_t bits_;
-};
-
-/// The bytes of eight pixels as lanes of one vector for each byte of a pixel.
+/// Eight pixels side by side, in words of which the second overlaps the first by half.
 template <typename Format>
-class GlyphLanes {
-    using Lanes [[gnu::vector_size(8)]] = uint8_t;
+class EightPixels {
+    using Word = std::conditional_t<Format::kBytes == 1, HalfBlock, Block>;
+    static constexpr size_t kWords = Format::kBytes == 3 ? 2 : 1;
+    static constexpr size_t kStep = 8;
 
   public:
-    explicit GlyphLanes(uint32_t pixel) {
-        for (int32_t byte = 0; byte < 8 * Format::kBytes; ++byte) {
-            const int32_t ofPixel = byte % Format::kBytes;
-            color_[byte / 8][byte % 8] = static_cast<uint8_t>(pixel >> (8 * ofPixel));
-            bit_[byte / 8][byte % 8] = static_cast<uint8_t>(0x80U >> (byte / Format::kBytes));
+    EightPixels(uint32_t fore, uint32_t back) {
+        for (size_t i = 0; i < kWords; ++i) {
+            fore_[i] = wordOf(Solid<Format>(fore).block(i * kStep));
+            back_[i] = wordOf(Solid<Format>(back).block(i * kStep));
+            bit_[i] = loadWord<Word>(kPatternBits<Format>.data() + i * kStep);
         }
     }
 
-    /// Combines the colour into those of eight pixels whose bits are set.
-    template <typename Mode>
-    void put(uint8_t* at, uint32_t bits) const {
-        const Lanes all = Lanes{} + static_cast<uint8_t>(bits);
-        for (size_t i = 0; i < Format::kBytes; ++i, at += 8) {
-            Lanes old;
-            std::memcpy(&old, at, sizeof old);
-            const Lanes mask = (all & bit_[i]) != 0;
-            const Lanes combined = (Mode::combine(old, color_[i]) & mask) | (old & ~mask);
-            std::memcpy(at, &combined, sizeof combined);
+    /// Combines the fore colour into the pixels whose bits are set, the leftmost in bit 7; first,
+    /// where the glyph is opaque, the back colour into all of them.
+    template <typename Mode, bool kOpaque>
+    void put(uint8_t* at, uint8_t bits) const {
+        Word ground[kWords];
+        for (size_t i = 0; i < kWords; ++i) {
+            ground[i] = Mode::kReads || !kOpaque ? loadWord<Word>(at + i * kStep) : Word{};
+            ground[i] = kOpaque ? Mode::combine(ground[i], back_[i]) : ground[i];
+        }
+        const Word all = inEachByte(bits);
+        for (size_t i = 0; i < kWords; ++i) {
+            const auto set = reinterpret_cast<Word>((bit_[i] & all) == bit_[i]);
+            storeWord(at + i * kStep,
+                      (Mode::combine(ground[i], fore_[i]) & set) | (ground[i] & ~set));
         }
     }
 
   private:
-    Lanes color_[Format::kBytes];
-    Lanes bit_[Format::kBytes];
+    /// By way of 32 bits, which processors without an instruction for bytes repeat at once.
+    static Word inEachByte(uint8_t bits) {
+        using Half = uint32_t __attribute__((vector_size(sizeof(HalfBlock))));
+        using Whole = uint32_t __attribute__((vector_size(sizeof(Block))));
+        using Quads = std::conditional_t<sizeof(Word) == sizeof(Block), Whole, Half>;
+        return reinterpret_cast<Word>(Quads{} + bits * 0x01010101U);
+    }
+
+    static Word wordOf(Block block) {
+        uint8_t bytes[kBlock];
+        storeBlock(bytes, block);
+        return loadWord<Word>(bytes);
+    }
+
+    Word fore_[kWords];
+    Word back_[kWords];
+    Word bit_[kWords]; ///< for each byte, the bit that decides on it
 };
 
-/// The address behind the last set pixel of a glyph; null when none is set.
-template <typename Format>
-uint8_t* endOfGlyph(uint8_t* at, ptrdiff_t stride, const GlyphBits& glyph, int32_t width,
-                    int32_t height) {
-    for (int32_t y = height - 1; y >= 0; --y) {
-        const GlyphRow row(glyph.bits + y * glyph.stride, glyph.bitsPerPixel);
-        for (int32_t x = (width - 1) & ~7; x >= 0; x -= 8) {
-            const uint32_t bits = row.pixels(glyph.firstPixel + x, std::min(width - x, 8));
-            if (bits != 0) {
-                const int32_t last = x + 7 - std::countr_zero(bits);
-                return at + y * stride + (last + 1) * ptrdiff_t{Format::kBytes};
-            }
-        }
-    }
-    return nullptr;
-}
-
-/// Eight pixels at a time, and what is left of a row one by one: nothing beside the visible pixels
-/// is touched.
+/// A strip of fewer than eight columns. Nothing beside its pixels may be touched.
 template <typename Format, typename Mode>
-uint8_t* drawGlyph(uint8_t* at, ptrdiff_t stride, const GlyphBits& glyph, int32_t width,
-                   int32_t height, uint32_t pixel) {
-    const GlyphLanes<Format> lanes(pixel);
-    for (int32_t y = 0; y < height; ++y) {
-        const GlyphRow row(glyph.bits + y * glyph.stride, glyph.bitsPerPixel);
-        uint8_t* to = at + y * stride;
-        int32_t x = 0;
-        for (; x + 8 <= width; x += 8, to += 8 * Format::kBytes) {
-            lanes.template put<Mode>(to, row.pixels(glyph.firstPixel + x, 8));
-        }
-        if (x == width) {
-            continue;
-        }
-        for (uint32_t bits = row.pixels(glyph.firstPixel + x, width - x) << 24; bits != 0;
-             bits <<= 1, to += Format::kBytes) {
-            if ((bits & 0x80000000U) != 0) {
+void putSingly(uint8_t* at, ptrdiff_t stride, const GlyphStrip& strip, uint32_t pixel) {
+    for (int32_t y = 0; y < strip.rows(); ++y, at += stride) {
+        uint8_t* to = at;
+        for (uint32_t bits = strip.row(y); bits != 0; bits = bits << 1 & 0xFF) {
+            if ((bits & 0x80) != 0) {
                 putPixel<Format, Mode>(to, pixel);
             }
+            to += Format::kBytes;
         }
     }
-    return endOfGlyph<Format>(at, stride, glyph, width, height);
+}
+
+template <typename Format, typename Mode, bool kOpaque>
+uint8_t* drawGlyph(uint8_t* at, ptrdiff_t stride, const GlyphBits& glyph, int32_t width,
+                   int32_t height, uint32_t fore, uint32_t back) {
+    const EightPixels<Format> pixels(fore, back);
+    ptrdiff_t end = 0;
+    for (int32_t top = 0; top < height; top += GlyphStrip::kMostRows) {
+        for (int32_t left = 0; left < width; left += 8) {
+            const int32_t columns = std::min(width - left, 8);
+            const GlyphStrip strip(glyph, left, columns, top, height);
+            const ptrdiff_t corner = top * stride + left * ptrdiff_t{Format::kBytes};
+            if (columns == 8) {
+                uint8_t* to = at + corner;
+                for (int32_t y = 0; y < strip.rows(); ++y, to += stride) {
+                    if (kOpaque || strip.row(y) != 0) { // a third of them is clear
+                        pixels.template put<Mode, kOpaque>(to, strip.row(y));
+                    }
+                }
+            } else {
+                if constexpr (kOpaque) {
+                    fill<Format, Mode>(at + corner, stride, columns, strip.rows(), back);
+                }
+                putSingly<Format, Mode>(at + corner, stride, strip, fore);
+            }
+            const int32_t row = strip.lastRow();
+            if (row >= 0) {
+                const int32_t behind = strip.lastColumn(row) + 1;
+                end = std::max(end, corner + row * stride + behind * ptrdiff_t{Format::kBytes});
+            }
+        }
+    }
+    return end == 0 ? nullptr : at + end;
 }
 
 } // namespace quarlo::kernel

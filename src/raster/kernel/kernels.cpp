@@ -19,7 +19,8 @@ constexpr Kernels kKernels = {
     fillPatternSpans<Format, Mode>,
     line<Format, Mode>,
     dashedLine<Format, Mode>,
-    drawGlyph<Format, Mode>,
+    drawGlyph<Format, Mode, false>,
+    drawGlyph<Format, Mode, true>,
     putValues<Format, Mode>,
     putPixel<Format, Mode>,
 };

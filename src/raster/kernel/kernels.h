@@ -70,9 +70,12 @@ struct Kernels {
     uint8_t* (*dashedLine)(uint8_t* at, const LineSteps& steps, const DashSteps& dash,
                            uint32_t pixel);
 
-    /// The pixels of a glyph that have any bit set. Null when none has.
-    uint8_t* (*glyph)(uint8_t* at, ptrdiff_t stride, const GlyphBits& glyph, int32_t width,
-                      int32_t height, uint32_t pixel);
+    /// The pixels of a glyph that have any bit set in the fore colour: over what is there, or over
+    /// the back colour in all of its pixels. Null when none has a bit set.
+    using Glyph = uint8_t* (*)(uint8_t* at, ptrdiff_t stride, const GlyphBits& glyph, int32_t width,
+                               int32_t height, uint32_t fore, uint32_t back);
+    Glyph transparentGlyph;
+    Glyph opaqueGlyph;
 
     /// Pixels of the format's size, one after the other.
     uint8_t* (*putValues)(uint8_t* at, const uint8_t* values, int32_t count);
