@@ -2,13 +2,18 @@
 #include "draw/clip.h"
 #include "geometry/view.h"
 #include "image/grf_format.h"
-#include "image/grf_reader.h"
 #include "raster/canvas.h"
+#include "raster/kernel/run_reader.h"
 
 #include <quarlo/image.h>
 
 namespace quarlo {
 namespace {
+
+using kernel::readUnit;
+using kernel::RunControl;
+using kernel::RunPiece;
+using kernel::RunReader;
 
 /// Where an image goes, and what of it can be seen, in surface coordinates.
 struct Placement {
@@ -17,83 +22,51 @@ struct Placement {
     bool whole; ///< all of the image can be seen
 };
 
-/// Puts pieces of direct values on a canvas. Pieces lie within the visible columns.
-class DirectPainter {
-  public:
-    DirectPainter(const Canvas& canvas, int32_t unitBytes, bool whole)
-        : canvas_(canvas), unitBytes_(unitBytes), whole_(whole) {}
-
-    void literal(int32_t x, int32_t y, int32_t count, const uint8_t* units) const {
-        if (canvas_.kernels != nullptr) {
-            literalByKernel(canvas_.addressOf(x, y), count, units);
-            return;
-        }
-        for (int32_t i = 0; i < count; ++i, units += unitBytes_) {
-            plot(x + i, y, readUnit(units, unitBytes_));
-        }
-    }
-
-    /// One span of a whole image; a clipped one has its pixels plotted singly.
-    void fill(int32_t x, int32_t y, int32_t count, const uint8_t* unit) const {
-        const uint32_t value = readUnit(unit, unitBytes_);
-        if (whole_ || canvas_.kernels != nullptr) {
-            canvas_.span(low16(x), low16(y), count, value, canvas_.handle.drawingMode);
-            return;
-        }
-        for (int32_t i = 0; i < count; ++i) {
-            plot(x + i, y, value);
-        }
-    }
-
-  private:
-    void plot(int32_t x, int32_t y, uint32_t value) const {
-        canvas_.setPixel(low16(x), low16(y), value, canvas_.handle.drawingMode);
-    }
-
-    void literalByKernel(uint8_t* at, int32_t count, const uint8_t* units) const {
-        const kernel::Kernels& kernels = *canvas_.kernels;
-        const uint8_t* const last = units + (count - 1) * ptrdiff_t{unitBytes_};
-        const uint8_t* const end = at + count * ptrdiff_t{kernels.bytesPerPixel};
-        if (unitBytes_ == kernels.bytesPerPixel) {
-            kernels.putValues(at, units, count);
-        } else {
-            for (; at != end; at += kernels.bytesPerPixel, units += unitBytes_) {
-                kernels.putPixel(at, readUnit(units, unitBytes_));
-            }
-            at -= count * ptrdiff_t{kernels.bytesPerPixel};
-        }
-        canvas_.leaveCell(readUnit(last, unitBytes_),
-                          at + count * ptrdiff_t{kernels.bytesPerPixel});
-    }
-
-    const Canvas& canvas_;
-    const int32_t unitBytes_;
-    const bool whole_;
-};
-
-void drawDirect(const Canvas& canvas, const GGrfImage& image, const uint8_t* stream,
-                const Placement& place) {
-    const int32_t unitBytes = bytesOfUnit(image);
-    const DirectPainter painter(canvas, unitBytes, place.whole);
+/// An image of direct values that have the size of pixels, by kernel.
+void drawByKernel(const Canvas& canvas, const GGrfImage& image, const uint8_t* stream,
+                  const Placement& place) {
     const GRect& visible = place.visible;
-    GrfReader reader(stream, image.width, unitBytes);
-    GrfPiece piece;
-    for (int32_t row = 0; row < image.height && place.origin.y + row <= visible.bottom;
-         row = reader.row()) {
+    const kernel::RunImage runs{stream,
+                                image.width,
+                                visible.left - place.origin.x,
+                                visible.top - place.origin.y,
+                                visible.right - place.origin.x,
+                                visible.bottom - place.origin.y};
+    const kernel::LastPixel last = canvas.kernels->runs(canvas.addressOf(visible.left, visible.top),
+                                                        canvas.surface.bytesPerLine, runs);
+    if (last.cursor != nullptr) {
+        canvas.leaveCell(last.pixel, last.cursor);
+    }
+}
+
+/// The same piece by piece. A fill run of an image that can be seen whole is a span; otherwise
+/// pixels are plotted singly.
+void drawByPieces(const Canvas& canvas, const GGrfImage& image, const uint8_t* stream,
+                  const Placement& place) {
+    const int32_t unitBytes = bytesOfUnit(image);
+    const int32_t mode = canvas.handle.drawingMode;
+    const GRect& visible = place.visible;
+    RunReader reader(stream, image.width, unitBytes);
+    RunPiece piece;
+    for (int32_t y = place.origin.y; y <= visible.bottom; y = place.origin.y + reader.row()) {
         if (!reader.next(piece)) {
             return;
         }
-        const int32_t y = place.origin.y + row;
         const int32_t first = place.origin.x + piece.x;
         const int32_t left = std::max<int32_t>(first, visible.left);
         const int32_t right = std::min<int32_t>(first + piece.count - 1, visible.right);
-        if (piece.kind == GrfPiece::Skip || y < visible.top || left > right) {
+        if (piece.kind == RunPiece::Skip || y < visible.top || left > right) {
             continue;
         }
-        if (piece.kind == GrfPiece::Fill) {
-            painter.fill(left, y, right - left + 1, piece.units);
-        } else {
-            painter.literal(left, y, right - left + 1, piece.units + (left - first) * unitBytes);
+        const bool fill = piece.kind == RunPiece::Fill;
+        if (fill && (place.whole || canvas.kernels != nullptr)) {
+            canvas.span(low16(left), low16(y), right - left + 1, readUnit(piece.units, unitBytes),
+                        mode);
+            continue;
+        }
+        for (int32_t x = left; x <= right; ++x) {
+            const uint8_t* const unit = piece.units + (fill ? 0 : (x - first) * unitBytes);
+            canvas.setPixel(low16(x), low16(y), readUnit(unit, unitBytes), mode);
         }
     }
 }
@@ -106,21 +79,20 @@ class PackedPainter {
 
     void draw(const uint8_t* at) {
         while (!isDone() && *at != 0) {
-            const uint8_t control = *at++;
-            const int32_t count = control & 0x3F;
-            const int32_t kind = control >> 6;
-            if (kind == 0) {
-                ++at; // a byte of any value
+            const RunControl control{*at++};
+            const int32_t count = control.count();
+            if (control.skips()) {
+                ++at;
                 advance(count);
-            } else if (kind == 1) {
-                for (int32_t i = 0; i < count && !isDone(); ++i, at += packing_.bytes) {
-                    plotUnit(readUnit(at, packing_.bytes));
-                }
-            } else if (kind == 3) {
+            } else if (control.hasUnits() && control.fills()) {
                 const uint32_t unit = readUnit(at, packing_.bytes);
                 at += packing_.bytes;
                 for (int32_t i = 0; i < count && !isDone(); ++i) {
                     plotUnit(unit);
+                }
+            } else if (control.hasUnits()) {
+                for (int32_t i = 0; i < count && !isDone(); ++i, at += packing_.bytes) {
+                    plotUnit(readUnit(at, packing_.bytes));
                 }
             }
         }
@@ -194,8 +166,10 @@ void draw(GDrawHandle* handle, const GGrfImage& image, const uint8_t* stream, co
         contains(canvas.area, box) && widthOf(box) == image.width && heightOf(box) == image.height;
     if (isPacked(image)) {
         PackedPainter(canvas, image, place).draw(stream);
+    } else if (canvas.kernels != nullptr && bytesOfUnit(image) == canvas.kernels->bytesPerPixel) {
+        drawByKernel(canvas, image, stream, place);
     } else {
-        drawDirect(canvas, image, stream, place);
+        drawByPieces(canvas, image, stream, place);
     }
 }
 

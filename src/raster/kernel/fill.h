@@ -30,7 +30,7 @@ uint8_t* fill(uint8_t* at, ptrdiff_t stride, int32_t width, int32_t height, uint
         length *= static_cast<size_t>(height);
         height = 1;
     }
-    fillRows<Mode>(at, stride, length, height, Solid<Format>(pixel).row(length));
+    fillRows<Mode>(at, stride, length, height, Solid<Format>(pixel).row());
     return end;
 }
 

@@ -4,8 +4,8 @@
 #include "raster/kernel/glyph.h"
 #include "raster/kernel/line.h"
 #include "raster/kernel/mode.h"
+#include "raster/kernel/runs.h"
 #include "raster/kernel/spans.h"
-#include "raster/kernel/values.h"
 
 namespace quarlo::kernel {
 namespace {
@@ -21,7 +21,8 @@ constexpr Kernels kKernels = {
     dashedLine<Format, Mode>,
     drawGlyph<Format, Mode, false>,
     drawGlyph<Format, Mode, true>,
-    putValues<Format, Mode>,
+    drawRuns<Format, Mode>,
+    putBytes<Format, Mode>,
     putPixel<Format, Mode>,
 };
 

@@ -44,6 +44,22 @@ struct GlyphBits {
     int32_t firstPixel;   ///< the first visible pixel of a row
 };
 
+/// An image of runs and its visible part, in pixels of the image, both ends included.
+struct RunImage {
+    const uint8_t* stream;
+    int32_t width; ///< of the whole image
+    int32_t left;
+    int32_t top;
+    int32_t right;
+    int32_t bottom;
+};
+
+/// The pixel that was written last, and the cursor; null when none was.
+struct LastPixel {
+    uint32_t pixel;
+    uint8_t* cursor;
+};
+
 /// All kernels of one format and mode. Counts are at least 1.
 struct Kernels {
     int32_t bytesPerPixel;
@@ -77,8 +93,12 @@ struct Kernels {
     Glyph transparentGlyph;
     Glyph opaqueGlyph;
 
-    /// Pixels of the format's size, one after the other.
-    uint8_t* (*putValues)(uint8_t* at, const uint8_t* values, int32_t count);
+    /// The visible part of an image whose values have the size of pixels; `at` is its upper left
+    /// pixel. The stream is read to the last visible row.
+    LastPixel (*runs)(uint8_t* at, ptrdiff_t stride, const RunImage& image);
+
+    /// Pixels side by side whose values are bytes.
+    uint8_t* (*bytes)(uint8_t* at, const uint8_t* values, int32_t count);
 
     void (*putPixel)(uint8_t* at, uint32_t pixel);
 };

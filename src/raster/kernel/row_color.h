@@ -36,9 +36,9 @@ class Solid {
         constexpr uint64_t kMask = UINT64_MAX >> (64 - Format::kBits);
         const uint64_t color = pixel & kMask;
         if constexpr (Format::kBytes == 3) {
-            const uint64_t words[] = {color | color << 24 | color << 48,
-                                      color >> 16 | color << 8 | color << 32 | color << 56,
-                                      color >> 8 | color << 16 | color << 40};
+            const uint64_t words[] = {color * 0x0001'000001'000001,
+                                      color * 0x01'000001'000001'00 | color >> 16,
+                                      color * 0x00'000001'000001'0000 | color >> 8};
             blocks_[0] = blockOf(words[0], words[1]);
             blocks_[1] = blockOf(words[2], words[0]);
             blocks_[2] = blockOf(words[1], words[2]);
@@ -48,9 +48,8 @@ class Solid {
         }
     }
 
-    RowColor row(size_t length) const {
-        return {block(0), block(kBlock), block(2 * kBlock), block(length - kBlock)};
-    }
+    /// A row ends with a pixel, and so does the third block of a period.
+    RowColor row() const { return {block(0), block(kBlock), block(2 * kBlock), block(2 * kBlock)}; }
 
     /// The 16 bytes from a byte of the row on. Those of 24-bit pixels look the same from every
     /// third byte on, and a block is one byte longer than five pixels.

@@ -28,7 +28,7 @@ uint8_t* fillSpans(uint8_t* pixels, ptrdiff_t stride, const Span* spans, int32_t
     for (int32_t i = 0; i < count; ++i) {
         uint8_t* const start = spanStart<Format>(pixels, stride, spans[i]);
         const size_t length = spanLength<Format>(spans[i]);
-        fillRows<Mode>(start, stride, length, 1, solid.row(length));
+        fillRows<Mode>(start, stride, length, 1, solid.row());
         end = start + length;
     }
     return end;
