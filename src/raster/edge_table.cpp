@@ -3,8 +3,11 @@
 #include "geometry/geometry.h"
 #include "memory/memory.h"
 
+#include <array>
+#include <bit>
 #include <cstddef>
 #include <cstring>
+#include <utility>
 
 namespace quarlo {
 namespace {
@@ -23,6 +26,25 @@ const int16_t* columnsOf(const GPoint* run) {
                                                 distance);
     }
 }
+
+/// One digit of a radix sort: how many have each value, and then where the next of them belongs.
+class ColumnDigits {
+  public:
+    void count(uint32_t digit) { ++places_[digit]; }
+
+    /// For digits of so many bits.
+    void findPlaces(int bits) {
+        uint16_t next = 0;
+        for (size_t digit = 0; digit < size_t{1} << bits; ++digit) {
+            next = static_cast<uint16_t>(next + std::exchange(places_[digit], next));
+        }
+    }
+
+    uint16_t take(uint32_t digit) { return places_[digit]++; }
+
+  private:
+    std::array<uint16_t, 256> places_{};
+};
 
 /// An object, not a function, so that sorting compares in place.
 constexpr auto kDown = [](const GEdge& a, const GEdge& b) {
@@ -107,38 +129,65 @@ void EdgeTable::admit(int32_t y) {
     }
 }
 
-/// From line to line few edges change places, if any. Where many do, their crossings are counted
-/// from then on, or, on areas too wide for that, sorted by a method that takes long ways at once.
+/// From line to line few edges change places, if any. Where many do they are sorted anew on each
+/// line from then on, which takes half the time that their moves would.
 void EdgeTable::sortActive() {
     constexpr int64_t kMovesPerEdge = 8;
-    if (counts_ || sortByInsertion(std::max(sorted_, 1), 1, active_ * kMovesPerEdge)) {
-        return;
+    constexpr int32_t kFew = 24;
+    tangled_ = tangled_ && active_ >= kFew;
+    if (!tangled_) {
+        tangled_ = !sortByInsertion(active_ * kMovesPerEdge);
     }
-    if (widthOf(area_) <= CrossingCounts::kMostColumns) {
-        counts_.emplace(area_.left, area_.right);
-        return;
-    }
-    // Gaps for the method of Shell by Ciura (2001).
-    for (const int32_t gap : {8858, 3937, 1750, 701, 301, 132, 57, 23, 10, 4, 1}) {
-        sortByInsertion(gap, gap, INT64_MAX);
+    if (tangled_) {
+        sortByColumn();
     }
 }
 
-/// Moves each edge back to its place among those a gap apart; equal x keep their order. False when
-/// that took too many moves.
-bool EdgeTable::sortByInsertion(int32_t from, int32_t gap, int64_t mostMoves) {
+/// Moves each edge that may not stand in order back to its place; equal x keep their order. False
+/// when that took too many moves.
+bool EdgeTable::sortByInsertion(int64_t mostMoves) {
     GEdge* const edges = state_.edges;
-    for (int32_t i = from; i < active_ && mostMoves >= 0; ++i) {
+    for (int32_t i = std::max(sorted_, 1); i < active_ && mostMoves >= 0; ++i) {
         const uint32_t moved = edges[i].order;
         const int32_t x = edges[moved].x;
         int32_t place = i;
-        for (; place >= gap && x < active(place - gap).x; place -= gap) {
-            edges[place].order = edges[place - gap].order;
+        for (; place > 0 && x < active(place - 1).x; --place) {
+            edges[place].order = edges[place - 1].order;
             --mostMoves;
         }
         edges[place].order = moved;
     }
     return mostMoves >= 0;
+}
+
+/// A radix sort by two digits, the lower one first: as few bits each as the area's columns need.
+/// Columns beside the area all count as the one next to it.
+void EdgeTable::sortByColumn() {
+    GEdge* const edges = state_.edges;
+    const int32_t first = std::max(area_.left - 1, INT16_MIN);
+    const int32_t last = std::min(area_.right + 1, INT16_MAX);
+    const int bits = (std::bit_width(static_cast<uint32_t>(last - first)) + 1) / 2;
+    const uint32_t lowBits = (1U << bits) - 1;
+    const auto columnOf = [=](uint32_t number) {
+        return static_cast<uint32_t>(std::clamp(rounded(edges[number].x), first, last) - first);
+    };
+    ColumnDigits low;
+    ColumnDigits high;
+    for (int32_t i = 0; i < active_; ++i) {
+        const uint32_t column = columnOf(edges[i].order);
+        low.count(column & lowBits);
+        high.count(column >> bits);
+    }
+    low.findPlaces(bits);
+    high.findPlaces(bits);
+    for (int32_t i = 0; i < active_; ++i) {
+        const uint32_t number = edges[i].order;
+        edges[low.take(columnOf(number) & lowBits)].sorted = static_cast<uint16_t>(number);
+    }
+    for (int32_t i = 0; i < active_; ++i) {
+        const uint32_t number = edges[i].sorted;
+        edges[high.take(columnOf(number) >> bits)].order = number;
+    }
 }
 
 } // namespace quarlo

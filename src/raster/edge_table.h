@@ -1,14 +1,11 @@
 // The edges of a polygon on their way down the scan lines.
 #pragma once
 
-#include "raster/crossing_counts.h"
-
 #include <quarlo/handle.h>
 #include <quarlo/types.h>
 
 #include <algorithm>
 #include <cstdint>
-#include <optional>
 
 /// An edge: straight, or with its column on each line taken from a table.
 struct GEdge {
@@ -19,8 +16,9 @@ struct GEdge {
         int32_t step;         ///< straight: x per line, 17.15 fixed point
         const int16_t* table; ///< the table's entry for the current line
     };
-    uint32_t flags;
-    uint32_t order; ///< not of this edge: which one is the n-th active edge, in the n-th record
+    uint16_t flags;
+    uint16_t sorted; ///< not of this edge: room for another list like the next
+    uint32_t order;  ///< not of this edge: which one is the n-th active edge, in the n-th record
 };
 
 static_assert(sizeof(void*) != 4 || sizeof(GEdge) == 20, "the block size that platforms see");
@@ -66,8 +64,8 @@ class EdgeTable {
 
   private:
     static constexpr int kFraction = 15;
-    static constexpr uint32_t kFromTable = 1;
-    static constexpr uint32_t kBottomUp = 2;
+    static constexpr uint16_t kFromTable = 1;
+    static constexpr uint16_t kBottomUp = 2;
 
     static int32_t rounded(int32_t x) { return (x + (1 << (kFraction - 1))) >> kFraction; }
 
@@ -78,19 +76,13 @@ class EdgeTable {
     void paintLine(Painter& painter, int32_t y) {
         int32_t left = 0;
         bool open = false;
-        const auto cross = [&](int32_t x) {
+        forCrossings([&](int32_t x) {
             if (open) {
                 painter.add(left, x, y);
             }
             left = x;
             open = !open;
-        };
-        if (counts_) {
-            forCrossings([this](int32_t x) { counts_->add(x); });
-            counts_->drain(cross);
-        } else {
-            forCrossings(cross);
-        }
+        });
     }
 
     /// Calls visit(column) where active edges cross the current line, moves them on to the next
@@ -159,14 +151,15 @@ class EdgeTable {
     GEdge* add(int32_t first, int32_t last);
     void admit(int32_t y);
     void sortActive();
-    bool sortByInsertion(int32_t from, int32_t gap, int64_t mostMoves);
+    bool sortByInsertion(int64_t mostMoves);
+    void sortByColumn();
 
     GPolygonState& state_; ///< the block and the first pending edge
     GRect area_;
     GEdge* end_ = nullptr;
-    int32_t active_ = 0;                   ///< how many edges are
-    int32_t sorted_ = 0;                   ///< how many of them, from the first, stand in order
-    std::optional<CrossingCounts> counts_; ///< once edges change places too often to be sorted
+    int32_t active_ = 0;   ///< how many edges are
+    int32_t sorted_ = 0;   ///< how many of them, from the first, stand in order
+    bool tangled_ = false; ///< edges change places too often to be sorted one by one
 };
 
 } // namespace quarlo
