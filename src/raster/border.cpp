@@ -5,6 +5,8 @@
 #include <quarlo/handle.h>
 #include <quarlo/rect.h>
 
+#include <algorithm>
+
 namespace quarlo {
 namespace {
 
@@ -28,8 +30,13 @@ void shrink(GRect& rect, int32_t by) {
     GRResizeRect(&rect, low16(-by), low16(-by));
 }
 
+/// The lowest column would mark a table edge. It is out of sight, and so is the one beside it.
+GPoint corner(GPoint point) {
+    return {std::max<int16_t>(point.x, G_TABLE_EDGE + 1), point.y};
+}
+
 void fillBand(GDrawHandle* handle, GPoint a, GPoint b, GPoint c, GPoint d) {
-    GPoint corners[] = {a, b, c, d};
+    GPoint corners[] = {corner(a), corner(b), corner(c), corner(d)};
     GPoly band{4, corners, {}};
     GDDrawPoly(handle, &band);
 }

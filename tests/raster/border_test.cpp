@@ -161,4 +161,18 @@ TEST_F(Border, WiderThanItsRectangleStaysInsideTheSurface) {
     EXPECT_TRUE(drawing.surface().memory().intact());
 }
 
+TEST_F(Border, FarLeftMarksNoTableEdge) {
+    Drawing drawing(6, 5);
+    const GRect rect{INT16_MIN, 0, 4, 4};
+    const GBorderStyle border = style(G_NO_COLOR, 1);
+    GDDrawRectBorder(drawing, &rect, nullptr, &border, 0);
+    EXPECT_TRUE(shows(*drawing.surface(),
+                      {"lllld.", //
+                       "....d.", //
+                       "....d.", //
+                       "....d.", //
+                       "ddddd."},
+                      kLetters));
+}
+
 } // namespace
