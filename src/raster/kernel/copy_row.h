@@ -3,11 +3,20 @@
 
 #include "raster/kernel/block.h"
 
+#include <atomic>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
 
 namespace quarlo::kernel {
+
+/// Parts what is read from what is written after it. s390x combines memory with memory byte by
+/// byte, and GCC 12 uses that for whole words, which goes wrong where the two overlap.
+inline void finishReading() {
+#if defined(__s390x__)
+    std::atomic_signal_fence(std::memory_order_seq_cst);
+#endif
+}
 
 /// Of two words' length at most, at least one: both are read before either is written, so the rows
 /// may overlap and the words too.
@@ -16,6 +25,7 @@ void combineTwo(uint8_t* to, const uint8_t* from, size_t count) {
     const size_t last = count - sizeof(Word);
     const Word first = Mode::combine(loadWord<Word>(to), loadWord<Word>(from));
     const Word second = Mode::combine(loadWord<Word>(to + last), loadWord<Word>(from + last));
+    finishReading();
     storeWord(to, first);
     storeWord(to + last, second);
 }
@@ -27,7 +37,9 @@ void combineForward(uint8_t* to, const uint8_t* from, size_t count) {
     uint8_t* const end = to + count - kBlock;
     const Block last = Mode::combine(loadBlock(end), loadBlock(from + count - kBlock));
     for (; to < end; to += kBlock, from += kBlock) {
-        storeBlock(to, Mode::combine(loadBlock(to), loadBlock(from)));
+        const Block block = Mode::combine(loadBlock(to), loadBlock(from));
+        finishReading();
+        storeBlock(to, block);
     }
     storeBlock(end, last);
 }
@@ -38,7 +50,9 @@ void combineBackward(uint8_t* to, const uint8_t* from, size_t count) {
     const Block first = Mode::combine(loadBlock(to), loadBlock(from));
     for (; count > kBlock; count -= kBlock) {
         uint8_t* const last = to + count - kBlock;
-        storeBlock(last, Mode::combine(loadBlock(last), loadBlock(from + count - kBlock)));
+        const Block block = Mode::combine(loadBlock(last), loadBlock(from + count - kBlock));
+        finishReading();
+        storeBlock(last, block);
     }
     storeBlock(to, first);
 }
