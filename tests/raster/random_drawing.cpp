@@ -150,10 +150,9 @@ std::string difference(const Scene& scene, const std::vector<DrawCall>& calls) {
 /// Draws calls from a mix, for surfaces of about the largest size.
 class CallMaker {
   public:
-    CallMaker(const DrawMix& mix, uint64_t salt) : mix_(mix), salt_(salt) {}
+    explicit CallMaker(const DrawMix& mix) : mix_(mix) {}
 
-    DrawCall operator()(Random& source) const {
-        Random random(source.bits() ^ salt_);
+    DrawCall operator()(Random& random) const {
         return random.oneIn(2) ? drawing(random) : setting(random, setter(random));
     }
 
@@ -267,7 +266,6 @@ class CallMaker {
     }
 
     const DrawMix& mix_;
-    uint64_t salt_;
 };
 
 /// Checks lists of calls on surfaces of every format and size.
@@ -277,7 +275,11 @@ void forEachScene(const DrawMix& mix, Through through, Check check) {
     for (const int16_t bits : kDepths) {
         for (const Size& size : kSizes) {
             const Scene scene{size, bits, through};
-            forRandomCalls(kRounds, kCalls, CallMaker(mix, ++salt),
+            const auto make = [&, salt = ++salt](Random& source) {
+                Random random(source.bits() ^ salt);
+                return randomCall(mix, random);
+            };
+            forRandomCalls(kRounds, kCalls, make,
                            [&](const std::vector<DrawCall>& calls) -> std::string {
                                return check(scene, calls);
                            });
@@ -289,6 +291,10 @@ void forEachScene(const DrawMix& mix, Through through, Check check) {
 }
 
 } // namespace
+
+DrawCall randomCall(const DrawMix& mix, Random& random) {
+    return CallMaker(mix)(random);
+}
 
 void expectLikeModel(const DrawMix& mix, Through through) {
     forEachScene(mix, through, difference);

@@ -43,6 +43,9 @@ inline const DrawMix kEveryCall = {{DrawCall::PenColor, DrawCall::FillColor, Dra
 inline const DrawMix kCurvedShapes = {
     kEveryCall.setters, {DrawCall::Oval, DrawCall::RoundRect, DrawCall::Arc, DrawCall::Pie}};
 
+/// A setter or a drawing call of a mix, for surfaces of up to about 70 x 35 pixels.
+DrawCall randomCall(const DrawMix& mix, Random& random);
+
 /// Makes lists of random calls on surfaces of every format and of several sizes. Fails with the
 /// shortest list of calls after which the library and the model differ.
 void expectLikeModel(const DrawMix& mix, Through through);
