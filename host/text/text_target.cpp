@@ -63,8 +63,8 @@ void TextTarget::blit(const Glyph& glyph, int x, int y, uint32_t pixel) const {
     const int32_t stride = strideOf(glyph);
     const quarlo::kernel::GlyphBits bits{glyph.bits + (box.top - y) * stride, stride,
                                          glyph.bitsPerPixel, box.left - x};
-    kernels_->glyph(addressOf(box.left, box.top), stride_, bits, widthOf(box), heightOf(box),
-                    pixel);
+    kernels_->transparentGlyph(addressOf(box.left, box.top), stride_, bits, widthOf(box),
+                               heightOf(box), pixel, G_NO_COLOR);
 }
 
 void TextTarget::blitLevels(const Glyph& glyph, int x, int y, const GRect& area,
