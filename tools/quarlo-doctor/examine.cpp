@@ -3,15 +3,20 @@
 #include "lifecycle.h"
 #include "probe.h"
 
+#include <algorithm>
+
 namespace doctor {
 namespace {
 
-/// Starts the platform, but for the services that do so themselves, and runs a probe.
-Complaint runProbe(const Platform& platform, const Probe& probe) {
+/// Whether the probe of a service starts the platform itself.
+bool startsItself(int32_t number) {
     const auto starting = lifecycleProbes();
-    const bool startsItself =
-        &probe >= starting.data() && &probe < starting.data() + starting.size();
-    if (!startsItself) {
+    return std::any_of(starting.begin(), starting.end(),
+                       [=](const Probe& probe) { return probe.number == number; });
+}
+
+Complaint runProbe(const Platform& platform, const Probe& probe) {
+    if (!startsItself(probe.number)) {
         start(platform);
     }
     return probe.run(platform);

@@ -47,14 +47,12 @@ auto count(const std::vector<Finding>& findings, State state) {
 
 void printLine(std::ostream& out, const Finding& finding) {
     const std::string remark = remarkOn(finding);
-    out << std::setw(3) << finding.service->number << "  " << std::left;
-    if (remark.empty()) {
-        out << std::setw(26) << finding.service->name << "  " << wordFor(finding);
-    } else {
-        out << std::setw(26) << finding.service->name << "  " << std::setw(7) << wordFor(finding)
-            << "  " << remark;
+    out << std::right << std::setw(3) << finding.service->number << "  " << std::left
+        << std::setw(26) << finding.service->name << wordFor(finding);
+    if (!remark.empty()) {
+        out << "  " << remark;
     }
-    out << std::right << '\n';
+    out << '\n';
 }
 
 } // namespace
