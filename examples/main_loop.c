@@ -15,6 +15,7 @@ enum { FOREVER = -1, STEP = 8 };
 
 static const GRect wholePanel = {0, 0, 479, 239};
 static const GRect field = {16, 16, 303, 223};
+static const GRect reach = {32, 32, 287, 207}; /* of the cross */
 static const GRect button = {320, 16, 463, 95};
 static const GRect bar = {320, 192, 463, 223};
 
@@ -66,14 +67,13 @@ static GRect crossArea(const Panel* panel) {
 }
 
 static void moveCross(Panel* panel, int dx, int dy) {
-    const int x = panel->cross.x + dx;
-    const int y = panel->cross.y + dy;
+    const GPoint next = {(int16_t)(panel->cross.x + dx), (int16_t)(panel->cross.y + dy)};
     GRect area = crossArea(panel);
-    if (x < field.left + 16 || x > field.right - 16 || y < field.top + 16 || y > field.bottom - 16)
+    if (!GRPointInRect(&next, &reach)) {
         return;
+    }
     change(panel, &area);
-    panel->cross.x = (int16_t)x;
-    panel->cross.y = (int16_t)y;
+    panel->cross = next;
     area = crossArea(panel);
     change(panel, &area);
 }
@@ -89,8 +89,9 @@ static void pressButton(Panel* panel, int pressed) {
 }
 
 static void startCycle(Panel* panel) {
-    if (!panel->running)
+    if (!panel->running) {
         panel->running = GESetTimer(PANEL, CYCLE, TICK);
+    }
     panel->progress = 0;
     change(panel, &bar);
 }
@@ -133,14 +134,17 @@ static int handle(Panel* panel, const GEventMsg* event) {
     case KEY:
         return handleKey(panel, event->param1, (int)event->param2);
     case PRESS:
-        if (onButton(event->param1))
+        if (onButton(event->param1)) {
             pressButton(panel, 1);
+        }
         return 1;
     case RELEASE:
-        if (panel->pressed && onButton(event->param1))
+        if (panel->pressed && onButton(event->param1)) {
             startCycle(panel);
-        if (panel->pressed)
+        }
+        if (panel->pressed) {
             pressButton(panel, 0);
+        }
         return 1;
     default:
         return event->type != G_EVENT_QUIT;
@@ -193,8 +197,9 @@ static void drawBar(const Panel* panel) {
     filled.right = (int16_t)(filled.left + inside * panel->progress / LENGTH - 1);
     drawBox(panel->handle, &bar, 0x303840, G_BORDER_SUNKEN);
     GDSetFillAttribute(panel->handle, G_FILL_FORE, 0x40C080, 0x40C080);
-    if (panel->progress > 0)
+    if (panel->progress > 0) {
         GDDrawRect(panel->handle, &filled);
+    }
 }
 
 static void draw(const Panel* panel) {
@@ -243,11 +248,13 @@ int main(void) {
     Panel panel = {0};
     const GVram* display;
     GetGPIFunction();
-    if (!GDInitPlatform(0) || !GEInitEvent())
+    if (!GDInitPlatform(0) || !GEInitEvent()) {
         return 1;
+    }
     panel.handle = GDOpenDrawHandle(0, 0);
-    if (!panel.handle)
+    if (!panel.handle) {
         return 1;
+    }
     display = GDGetVram(panel.handle);
     GDSetColorMode(panel.handle, 1, display->redMask, display->greenMask, display->blueMask);
     panel.cross.x = (int16_t)((field.left + field.right) / 2);

@@ -34,10 +34,10 @@
  * which GEGetEvent() calls while it waits, and which posts events:
  *
  *     void onMessage(void* context, const GMessage* message) {
+ *         const uint32_t key = (uint32_t)message->param1;
  *         GEventMsg event;
  *         if (message->number == G_MESSAGE_KEY_DOWN)
- *             GESetEvent(*GECreateEventMessage(&event, KEY, PANEL, (uint32_t)message->param1, 0),
- * 0);
+ *             GESetEvent(*GECreateEventMessage(&event, KEY, PANEL, key, 0), 0);
  *     }
  *
  * Threads: the window has a thread of its own, which asks the display server for input. It calls
