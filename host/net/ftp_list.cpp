@@ -31,7 +31,8 @@ uint32_t attributesOf(const curl_fileinfo& file) {
 
 void add(Found& found, const curl_fileinfo& file) {
     const std::u16string name = utf16Of(file.filename);
-    if (name.size() >= std::size(GNetFileInfo{}.name) || !matches(found.pattern, name)) {
+    const bool fits = name.size() < std::size(GNetFileInfo{}.name);
+    if (!fits || name.find(u'/') != name.npos || !matches(found.pattern, name)) {
         return;
     }
     GNetFileInfo info{};

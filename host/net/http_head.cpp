@@ -1,6 +1,7 @@
 #include "net/http_head.h"
 
 #include "net/ascii.h"
+#include "net/error.h"
 
 #include <charconv>
 
@@ -8,6 +9,7 @@ namespace gpi {
 namespace {
 
 constexpr std::string_view kBlanks = " \t";
+constexpr size_t kMostFields = 1000;
 
 std::string_view trimmed(std::string_view text) {
     const size_t begin = text.find_first_not_of(kBlanks);
@@ -33,6 +35,7 @@ bool HttpHead::take(std::string_view line) {
         std::from_chars(digits.data(), digits.data() + digits.size(), status_);
         statusText_ = line;
     } else if (!line.empty()) {
+        require(fields_.size() < kMostFields, G_NET_PROTOCOL);
         fields_.emplace_back(line);
     }
     return ended;

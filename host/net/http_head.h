@@ -15,7 +15,7 @@ class HttpHead {
   public:
     /// Takes a line without its end.
     ///
-    /// @return whether it ended the head
+    /// @return whether it ended the head @throws NetError when there is no end of headers
     bool take(std::string_view line);
 
     int32_t status() const { return status_; }

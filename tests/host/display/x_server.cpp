@@ -1,29 +1,10 @@
 #include "x_server.h"
 
-#include <fcntl.h>
 #include <signal.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 namespace gpi::test {
-namespace {
-
-[[noreturn]] void become(const std::vector<std::string>& words) {
-    const int nowhere = open("/dev/null", O_RDWR);
-    dup2(nowhere, STDIN_FILENO);
-    dup2(nowhere, STDOUT_FILENO);
-    dup2(nowhere, STDERR_FILENO);
-    std::vector<char*> arguments;
-    for (const std::string& word : words) {
-        arguments.push_back(const_cast<char*>(word.c_str()));
-    }
-    arguments.push_back(nullptr);
-    execv(arguments[0], arguments.data());
-    _exit(127);
-}
-
-} // namespace
-
 XServer::XServer() {
     int ready[2] = {};
     if (pipe(ready) != 0) {
@@ -51,16 +32,6 @@ XServer::~XServer() {
         kill(process_, SIGTERM);
         waitpid(process_, nullptr, 0);
     }
-}
-
-int run(const std::vector<std::string>& words) {
-    const pid_t child = fork();
-    if (child == 0) {
-        become(words);
-    }
-    int status = 0;
-    const bool ended = child > 0 && waitpid(child, &status, 0) == child && WIFEXITED(status);
-    return ended ? WEXITSTATUS(status) : -1;
 }
 
 } // namespace gpi::test

@@ -1,10 +1,11 @@
 // A display server in front of nobody.
 #pragma once
 
+#include "support/process.h"
+
 #include <sys/types.h>
 
 #include <string>
-#include <vector>
 
 namespace gpi::test {
 
@@ -23,8 +24,5 @@ class XServer {
     pid_t process_ = -1;
     std::string display_;
 };
-
-/// Runs a program without a shell, its output thrown away. Its exit status, or -1.
-int run(const std::vector<std::string>& words);
 
 } // namespace gpi::test

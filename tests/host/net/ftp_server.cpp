@@ -1,5 +1,7 @@
 #include "ftp_server.h"
 
+#include "support/process.h"
+
 #include <fstream>
 #include <iterator>
 
@@ -16,7 +18,7 @@ std::string contentsOf(const std::string& path) {
 } // namespace
 
 bool FtpServer::installed() {
-    return succeeds({kPython, "-c", "import pyftpdlib"});
+    return run({kPython, "-c", "import pyftpdlib"}) == 0;
 }
 
 FtpServer::FtpServer()

@@ -1,5 +1,7 @@
 #include "net/http_head.h"
 
+#include "net/error.h"
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -36,6 +38,15 @@ TEST(HttpHead, MayHaveNoStatusText) {
     EXPECT_EQ(head.statusText(), "");
     head.take("HTTP/1.0 nonsense");
     EXPECT_EQ(head.status(), 0);
+}
+
+TEST(HttpHead, HasAnEnd) {
+    HttpHead head;
+    head.take("HTTP/1.1 200 OK");
+    for (int count = 0; count < 1000; ++count) {
+        head.take("A: b");
+    }
+    EXPECT_THROW(head.take("A: b"), gpi::NetError);
 }
 
 } // namespace

@@ -1,5 +1,7 @@
 #include "server_process.h"
 
+#include "support/process.h"
+
 #include <arpa/inet.h>
 #include <fcntl.h>
 #include <netinet/in.h>
@@ -24,22 +26,6 @@ sockaddr_in loopback(int port) {
     address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
     address.sin_port = htons(static_cast<uint16_t>(port));
     return address;
-}
-
-[[noreturn]] void become(const std::vector<std::string>& words, const std::string& log) {
-    prctl(PR_SET_PDEATHSIG, SIGKILL); // also when the test dies before it can tidy up
-    const int nowhere = open("/dev/null", O_RDONLY);
-    const int output = open(log.c_str(), O_WRONLY | O_CREAT | O_APPEND, 0600);
-    dup2(nowhere, STDIN_FILENO);
-    dup2(output, STDOUT_FILENO);
-    dup2(output, STDERR_FILENO);
-    std::vector<char*> arguments;
-    for (const std::string& word : words) {
-        arguments.push_back(const_cast<char*>(word.c_str()));
-    }
-    arguments.push_back(nullptr);
-    execv(arguments[0], arguments.data());
-    _exit(127);
 }
 
 } // namespace
@@ -72,6 +58,7 @@ ServerProcess::ServerProcess(const std::vector<std::string>& words,
             dup2(kOutOfTheWay + port, kFirstPort + port);
             close(kOutOfTheWay + port);
         }
+        prctl(PR_SET_PDEATHSIG, SIGKILL); // also when the test dies before it can tidy up
         become(words, log);
     }
     for (ListeningPort* const port : ports) {
@@ -108,15 +95,6 @@ bool answers(int port) {
         connect(file, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0;
     close(file);
     return taken;
-}
-
-bool succeeds(const std::vector<std::string>& words) {
-    const pid_t child = fork();
-    if (child == 0) {
-        become(words, "/dev/null");
-    }
-    int status = -1;
-    return child > 0 && waitpid(child, &status, 0) == child && status == 0;
 }
 
 } // namespace gpi::test

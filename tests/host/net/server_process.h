@@ -55,7 +55,4 @@ class ServerProcess {
 /// Whether someone takes calls on a port of the loopback address.
 bool answers(int port);
 
-/// Whether a program succeeds. Runs it without a shell, its output thrown away.
-bool succeeds(const std::vector<std::string>& words);
-
 } // namespace gpi::test

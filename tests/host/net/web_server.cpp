@@ -1,6 +1,7 @@
 #include "web_server.h"
 
 #include "nc/eventually.h"
+#include "support/process.h"
 
 #include <filesystem>
 #include <fstream>
@@ -30,7 +31,7 @@ bool WebServer::installed() {
 }
 
 WebServer::WebServer() {
-    succeeds({MAKE_CERTIFICATES, folder_.path()});
+    run({MAKE_CERTIFICATES, folder_.path()});
     std::filesystem::create_directories(folder_.path("www/store"));
     folder_.write("users", "operator:{PLAIN}secret\n");
     for (int attempt = 0; attempt < kAttempts && !start(); ++attempt) {

@@ -20,7 +20,7 @@ class WebTest : public testing::Test {
     static void TearDownTestSuite() { server.reset(); }
 
     /// Trusts the server.
-    WebTest() : WebTest({{"QUARLO_NET_CA_FILE", server->authorityFile()}}) {}
+    WebTest() : WebTest(trusting()) {}
     explicit WebTest(const Environment::Values& settings) : platform(withFiles(settings)) {}
     ~WebTest() override { EXPECT_EQ(closeHandle(session), 1); }
 
@@ -42,6 +42,10 @@ class WebTest : public testing::Test {
     /// A URL that says who asks.
     static std::u16string loginUrl(const std::string& path) {
         return u"http://operator:secret@" + server->url(path).substr(7);
+    }
+
+    static Environment::Values trusting() {
+        return {{"QUARLO_NET_CA_FILE", server->authorityFile()}};
     }
 
     static inline std::unique_ptr<WebServer> server;
