@@ -10,7 +10,7 @@
 namespace gpi {
 namespace {
 
-constexpr size_t kPiece = 64 * 1024;
+constexpr size_t kPiece = size_t{64} << 10;
 
 } // namespace
 

@@ -4,7 +4,7 @@
 
 namespace gpi {
 
-GNetHandle* HandleTree::add(std::shared_ptr<Node> node) {
+GNetHandle* HandleTree::add(const std::shared_ptr<Node>& node) {
     const std::lock_guard lock(mutex_);
     const Node* const parent = node->parent().get();
     require(parent == nullptr || table_.find(parent->handle) != nullptr, G_NET_HANDLE);

@@ -17,7 +17,7 @@ class HandleTree {
     /// Puts a node under a handle that belongs to its parent's.
     ///
     /// @throws NetError G_NET_TOO_MANY; G_NET_HANDLE when the parent was closed meanwhile
-    GNetHandle* add(std::shared_ptr<Node> node);
+    GNetHandle* add(const std::shared_ptr<Node>& node);
 
     /// @throws NetError G_NET_HANDLE
     std::shared_ptr<Node> find(const GNetHandle* handle) const;

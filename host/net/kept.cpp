@@ -4,7 +4,7 @@
 
 namespace gpi {
 
-GNetLock* Keeper::keep(std::shared_ptr<const Kept> kept) {
+GNetLock* Keeper::keep(const std::shared_ptr<const Kept>& kept) {
     const std::lock_guard lock(mutex_);
     GNetLock* const handle = locks_.add(kept);
     require(handle != nullptr, G_NET_TOO_MANY);

@@ -25,7 +25,7 @@ struct Kept {
 class Keeper {
   public:
     /// @throws NetError G_NET_TOO_MANY
-    GNetLock* keep(std::shared_ptr<const Kept> kept);
+    GNetLock* keep(const std::shared_ptr<const Kept>& kept);
 
     /// The last that was kept under a key, or null.
     std::shared_ptr<const Kept> find(const std::string& key);

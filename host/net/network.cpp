@@ -135,7 +135,7 @@ void Network::queryOption(const GNetHandle* handle, int32_t option, void* value,
     } else if (option == G_NET_OPTION_PARENT) {
         const GNetHandle* const parent =
             node->parent() != nullptr ? node->parent()->handle : nullptr;
-        handOutBytes(static_cast<const void*>(&parent), sizeof parent, value, size);
+        handOutBytes(static_cast<const void*>(&parent), sizeof(void*), value, size);
     } else if (option == G_NET_OPTION_URL) {
         const std::lock_guard lock(node->mutex());
         require(!node->url().empty(), G_NET_NOT_FOUND);

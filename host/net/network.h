@@ -49,8 +49,9 @@ class Network {
     /// Brings to its end what belongs to a handle, and closes it. @throws the first error
     void close(const GNetHandle* handle);
 
-    /// Asks for a URL; it may have been kept. @param flags as for GNetOpenUrl()
-    GNetHandle* openUrl(const GNetHandle* session, const std::string& url,
+    /// Asks for a URL on behalf of a session; it may have been kept. @param flags as for
+    /// GNetOpenUrl()
+    GNetHandle* openUrl(const GNetHandle* handle, const std::string& text,
                         const std::string& headers, uint32_t flags);
 
     // As GNetQueryOption() and GNetSetOption().

@@ -52,10 +52,8 @@ class RemoteFile : public Node {
     /// Asks the server for the contents from a position on. @throws NetError
     virtual std::unique_ptr<Source> reopen(int64_t position) = 0;
 
-    /// @throws NetError G_NET_STATE where nothing can be read
-    void requireBegun() const;
-
   private:
+    void requireBegun() const;
     void record(const uint8_t* bytes, size_t count);
     std::unique_ptr<Source> openAt(int64_t position);
 

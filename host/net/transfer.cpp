@@ -8,7 +8,7 @@ namespace gpi {
 namespace {
 
 // Bytes that are fetched ahead of their reader.
-constexpr size_t kAhead = 256 * 1024;
+constexpr size_t kAhead = size_t{256} << 10;
 // libcurl has time-outs of its own that are not told beforehand.
 constexpr std::chrono::milliseconds kLongestWait{1000};
 
@@ -42,7 +42,7 @@ void Transfer::apply(const Options& options) {
     set(CURLOPT_PROTOCOLS_STR, "http,https,ftp");
     set(CURLOPT_PROXY, options.proxy.c_str()); // also none, whatever the environment says
     set(CURLOPT_CONNECTTIMEOUT_MS, static_cast<long>(options.connectTimeout));
-    set(CURLOPT_SERVER_RESPONSE_TIMEOUT, static_cast<long>(options.idleTimeout / 1000 + 1));
+    set(CURLOPT_SERVER_RESPONSE_TIMEOUT, long{options.idleTimeout} / 1000 + 1);
     set(CURLOPT_MAX_RECV_SPEED_LARGE, static_cast<curl_off_t>(options.rate));
     set(CURLOPT_MAX_SEND_SPEED_LARGE, static_cast<curl_off_t>(options.rate));
     if (!options.user.empty()) {
@@ -66,7 +66,7 @@ void Transfer::set(CURLoption option, const std::vector<std::string>& list) {
         if (longer == nullptr) {
             throw std::bad_alloc();
         }
-        made.release();
+        static_cast<void>(made.release()); // the longer list begins with it
         made.reset(longer);
     }
     set(option, made.get());

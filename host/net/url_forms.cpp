@@ -1,5 +1,6 @@
 #include "net/url_forms.h"
 
+#include "net/ascii.h"
 #include "net/error.h"
 #include "net/text.h"
 #include "net/url.h"
@@ -88,7 +89,10 @@ std::string createUrl(const GNetUrl& parts, uint32_t flags) {
     text += encode ? escapedPath(path) : path;
     require(extra.empty() || extra[0] == '?' || extra[0] == '#');
     text += encode ? withoutForbidden(extra, Escapes::Escaped) : extra;
-    return Url(text, CURLU_PATH_AS_IS).text();
+    const Url made(text, CURLU_PATH_AS_IS);
+    // What is not encoded may mean something else: a slash in a user's name ends the host.
+    require(made.part(CURLUPART_HOST) == lowerCase(url.part(CURLUPART_HOST)), G_NET_URL);
+    return made.text();
 }
 
 std::string usualUrl(const std::string& url, uint32_t flags) {

@@ -8,7 +8,7 @@
 namespace gpi {
 
 /// The parts of a URL. @param flags as for GNetCrackUrl() @throws NetError
-void crackUrl(const std::string& url, uint32_t flags, GNetUrl& parts);
+void crackUrl(const std::string& text, uint32_t flags, GNetUrl& parts);
 
 /// A URL of parts. @param flags as for GNetCreateUrl() @throws NetError
 std::string createUrl(const GNetUrl& parts, uint32_t flags);

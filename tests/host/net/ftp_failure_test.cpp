@@ -161,6 +161,30 @@ TEST_F(FtpFailure, BrokenWriting) {
     EXPECT_EQ(lastError(), G_NET_BROKEN);
 }
 
+TEST_F(FtpFailure, NoNames) {
+    const auto refused = [](int32_t result) {
+        return result == 0 && lastError() == G_NET_ARGUMENT;
+    };
+    EXPECT_TRUE(refused(getFile(connection, nullptr, u"a", 0, 0, 0)));
+    EXPECT_TRUE(refused(getFile(connection, u"a", nullptr, 0, 0, 0)));
+    EXPECT_TRUE(refused(putFile(connection, nullptr, u"a", 0)));
+    EXPECT_TRUE(refused(putFile(connection, u"a", nullptr, 0)));
+    EXPECT_TRUE(refused(deleteFile(connection, nullptr)));
+    EXPECT_TRUE(refused(renameFile(connection, nullptr, u"a")));
+    EXPECT_TRUE(refused(renameFile(connection, u"a", nullptr)));
+    EXPECT_TRUE(refused(createDirectory(connection, nullptr)));
+    EXPECT_TRUE(refused(removeDirectory(connection, nullptr)));
+    EXPECT_TRUE(refused(setCurrentDirectory(connection, nullptr)));
+    char16_t path[10];
+    int32_t size = 10;
+    EXPECT_TRUE(refused(getCurrentDirectory(connection, nullptr, &size)));
+    EXPECT_TRUE(refused(getCurrentDirectory(connection, path, nullptr)));
+    EXPECT_EQ(openFile(connection, nullptr, G_OPEN_READ, 0), nullptr);
+    EXPECT_EQ(lastError(), G_NET_ARGUMENT);
+    EXPECT_EQ(openFile(connection, u"folder/", G_OPEN_READ, 0), nullptr);
+    EXPECT_EQ(lastError(), G_NET_ARGUMENT);
+}
+
 TEST_F(FtpFailure, CommandsInNames) {
     server.serve("victim", "alive");
     for (const char16_t* const name : {u"x\r\nDELE victim", u"x\nDELE victim", u"\x01", u""}) {

@@ -143,6 +143,13 @@ TEST(Url, OfPartsThatDoNotFitIsRefused) {
     write(parts.path, u"/a b");
     EXPECT_EQ(created(parts), u"5") << "no URL without encoding";
     parts = good;
+    write(parts.user, u"elsewhere/");
+    EXPECT_EQ(created(parts), u"5") << "it would lead elsewhere";
+    EXPECT_EQ(created(parts, G_URL_ENCODE), u"http://elsewhere%2f@host/");
+    parts = good;
+    write(parts.host, u"HOST");
+    EXPECT_EQ(created(parts), u"http://host/");
+    parts = good;
     std::fill(std::begin(parts.user), std::end(parts.user), u'u');
     EXPECT_EQ(created(parts), u"1") << "without an end";
 }
