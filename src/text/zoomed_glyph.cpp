@@ -1,9 +1,11 @@
 // Magnified glyphs.
-#include "geometry/map.h"
+#include "geometry/view.h"
 #include "text/glyph.h"
 
 #include <quarlo/draw.h>
 #include <quarlo/handle.h>
+
+#include <algorithm>
 
 namespace quarlo {
 namespace {
@@ -63,28 +65,96 @@ class BlockGrid {
     Magnification scale_;
 };
 
+/// Draws a rectangle for each set pixel of a glyph that can show. The others cost nothing, however
+/// large a glyph the platform answers.
+class BlockPainter {
+  public:
+    BlockPainter(GDrawHandle& handle, const GGlyphRequest& glyph, const Magnification& scale)
+        : handle_(handle),
+          glyph_(glyph),
+          scale_(scale),
+          grid_(handle.penPos, scale),
+          area_(Canvas(handle).area) {}
+
+    void draw() const {
+        for (int32_t row = nextRow(0); row < glyph_.height; row = nextRow(row + 1)) {
+            for (int32_t column = nextColumn(0); column < glyph_.width;
+                 column = nextColumn(column + 1)) {
+                if (isSet(glyph_, row, column)) {
+                    const GRect block = grid_.block(column, row, 1, 1);
+                    GDDrawRect(&handle_, &block);
+                }
+            }
+        }
+    }
+
+  private:
+    /// The first column that shows, from one on.
+    int32_t nextColumn(int32_t column) const {
+        while (column < glyph_.width) {
+            const GRect block = onSurface(grid_.block(column, 0, 1, 1));
+            if (std::max(block.left, area_.left) <= std::min(block.right, area_.right)) {
+                break;
+            }
+            column += blocksBetween(block.left, area_.left, scale_.x);
+        }
+        return column;
+    }
+
+    int32_t nextRow(int32_t row) const {
+        while (row < glyph_.height) {
+            const GRect block = onSurface(grid_.block(0, row, 1, 1));
+            if (std::max(block.top, area_.top) <= std::min(block.bottom, area_.bottom)) {
+                break;
+            }
+            row += blocksBetween(block.top, area_.top, scale_.y);
+        }
+        return row;
+    }
+
+    GRect onSurface(GRect block) const {
+        mapToScreen(handle_, block);
+        return block;
+    }
+
+    /// How many blocks further on one may reach the area's first pixel. Coordinates wrap around.
+    int32_t blocksBetween(int16_t first, int16_t edge, int32_t scale) const {
+        if (isVirtual(handle_)) {
+            return 1;
+        }
+        const int32_t distance = static_cast<uint16_t>(edge - (scale - 1) - first);
+        return std::max((distance + scale - 1) / scale, 1);
+    }
+
+    GDrawHandle& handle_;
+    const GGlyphRequest& glyph_;
+    const Magnification& scale_;
+    const BlockGrid grid_;
+    const GRect area_;
+};
+
+/// In virtual mode any number of blocks may fall on one pixel. More than these are no glyph.
+bool isReasonable(const GDrawHandle& handle, const GGlyphRequest& glyph) {
+    constexpr int32_t kMostPixels = 512 * 512;
+    return !isVirtual(handle) || glyph.width * glyph.height <= kMostPixels;
+}
+
 } // namespace
 
 void drawGlyphZoomed(GDrawHandle* handle, const GGlyphRequest& glyph, const Magnification& scale) {
     const GPoint origin = handle->penPos;
     if (hasBitmap(glyph)) {
         const SavedStyle saved(*handle);
-        const BlockGrid grid(origin, scale);
         GDSetFillPattern(handle, G_FILL_BACK);
         GDSetPenColor(handle, G_NO_COLOR);
         if ((handle->textMode & G_TEXT_TRANSPARENT) == 0 && handle->backPixel != G_NO_COLOR) {
-            const GRect box = grid.block(0, 0, glyph.width, glyph.height);
+            const GRect box = BlockGrid(origin, scale).block(0, 0, glyph.width, glyph.height);
             GDDrawRect(handle, &box);
         }
         handle->backPixel = saved.penPixel();
-        const bool visible = glyph.bits != nullptr && saved.penPixel() != G_NO_COLOR;
-        for (int32_t row = 0; visible && row < glyph.height; ++row) {
-            for (int32_t column = 0; column < glyph.width; ++column) {
-                if (isSet(glyph, row, column)) {
-                    const GRect pixel = grid.block(column, row, 1, 1);
-                    GDDrawRect(handle, &pixel);
-                }
-            }
+        if (glyph.bits != nullptr && saved.penPixel() != G_NO_COLOR &&
+            isReasonable(*handle, glyph)) {
+            BlockPainter(*handle, glyph, scale).draw();
         }
     }
     GDMoveTo(handle, low16(origin.x + glyph.width * scale.x), origin.y);
