@@ -21,29 +21,13 @@ class Program {
   public:
     explicit Program(Input& input) : in_(input), scene_(input), handle_(*scene_.handle()) {}
 
-    void run() {
-        for (int i = 0; i < kMostCalls && !in_.isUsedUp(); ++i) {
-            if (in_.flag()) {
-                (this->*kDraws[in_.below(static_cast<int32_t>(std::size(kDraws)))])();
-            } else {
-                (this->*kSettings[in_.below(static_cast<int32_t>(std::size(kSettings)))])();
-            }
-        }
-    }
+    void run() { runSteps(*this, in_, kMostCalls, kDraws, kSettings); }
 
   private:
     using Step = void (Program::*)();
 
-    GPoint point() {
-        const int16_t x = in_.coordinate();
-        return {x, in_.coordinate()};
-    }
-
-    GRect rect() {
-        const GPoint first = point();
-        const GPoint second = point();
-        return {first.x, first.y, second.x, second.y};
-    }
+    GPoint point() { return readPoint(in_); }
+    GRect rect() { return readRect(in_); }
 
     // Settings.
 

@@ -87,6 +87,31 @@ class Writable {
     int rowBytes_;
 };
 
+inline GPoint readPoint(Input& in) {
+    const int16_t x = in.coordinate();
+    return {x, in.coordinate()};
+}
+
+inline GRect readRect(Input& in) {
+    const GPoint first = readPoint(in);
+    const GPoint second = readPoint(in);
+    return {first.x, first.y, second.x, second.y};
+}
+
+/// Calls the member functions that an input picks, as long as it lasts: those that draw and those
+/// that set something.
+template <typename Program, size_t Draws, size_t Settings>
+void runSteps(Program& program, Input& in, int most, void (Program::*const (&draws)[Draws])(),
+              void (Program::*const (&settings)[Settings])()) {
+    for (int i = 0; i < most && !in.isUsedUp(); ++i) {
+        if (in.flag()) {
+            (program.*draws[in.below(static_cast<int32_t>(Draws))])();
+        } else {
+            (program.*settings[in.below(static_cast<int32_t>(Settings))])();
+        }
+    }
+}
+
 /// Draws by draw(): nothing but pixels inside the clip rectangle may change.
 template <typename Draw>
 void checkDrawing(Scene& scene, Draw draw) {

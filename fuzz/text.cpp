@@ -108,28 +108,13 @@ class Program {
         GDSetFont(&handle_, font_.get());
     }
 
-    void run() {
-        for (int i = 0; i < kMostCalls && !in_.isUsedUp(); ++i) {
-            if (in_.flag()) {
-                (this->*kDraws[in_.below(static_cast<int32_t>(std::size(kDraws)))])();
-            } else {
-                (this->*kSettings[in_.below(static_cast<int32_t>(std::size(kSettings)))])();
-            }
-        }
-    }
+    void run() { runSteps(*this, in_, kMostCalls, kDraws, kSettings); }
 
   private:
     using Step = void (Program::*)();
 
-    GPoint point() {
-        const int16_t x = in_.coordinate();
-        return {x, in_.coordinate()};
-    }
-    GRect rect() {
-        const GPoint first = point();
-        const GPoint second = point();
-        return {first.x, first.y, second.x, second.y};
-    }
+    GPoint point() { return readPoint(in_); }
+    GRect rect() { return readRect(in_); }
     std::u16string string() {
         std::u16string text;
         for (int32_t left = in_.below(12); left > 0; --left) {

@@ -5,7 +5,6 @@
 #include <pixman.h>
 
 #include <array>
-
 #include <stdexcept>
 
 namespace bench {

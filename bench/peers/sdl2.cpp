@@ -14,7 +14,6 @@
 #include <SDL.h>
 
 #include <array>
-
 #include <stdexcept>
 #include <string>
 

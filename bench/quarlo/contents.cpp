@@ -9,7 +9,9 @@
 #include <quarlo/image.h>
 #include <quarlo/text.h>
 
+#include <algorithm>
 #include <string>
+#include <vector>
 
 namespace bench {
 namespace {
