@@ -10,7 +10,6 @@
 namespace quarlo {
 namespace {
 
-using kernel::readUnit;
 using kernel::RunControl;
 using kernel::RunPiece;
 using kernel::RunReader;
@@ -43,7 +42,7 @@ void drawByKernel(const Canvas& canvas, const GGrfImage& image, const uint8_t* s
 /// pixels are plotted singly.
 void drawByPieces(const Canvas& canvas, const GGrfImage& image, const uint8_t* stream,
                   const Placement& place) {
-    const int32_t unitBytes = bytesOfUnit(image);
+    const int32_t unitBytes = GGrfBytesOfUnit(&image);
     const int32_t mode = canvas.handle.drawingMode;
     const GRect& visible = place.visible;
     RunReader reader(stream, image.width, unitBytes);
@@ -60,13 +59,13 @@ void drawByPieces(const Canvas& canvas, const GGrfImage& image, const uint8_t* s
         }
         const bool fill = piece.kind == RunPiece::Fill;
         if (fill && (place.whole || canvas.kernels != nullptr)) {
-            canvas.span(low16(left), low16(y), right - left + 1, readUnit(piece.units, unitBytes),
-                        mode);
+            canvas.span(low16(left), low16(y), right - left + 1,
+                        GGrfReadUnit(piece.units, unitBytes), mode);
             continue;
         }
         for (int32_t x = left; x <= right; ++x) {
             const uint8_t* const unit = piece.units + (fill ? 0 : (x - first) * unitBytes);
-            canvas.setPixel(low16(x), low16(y), readUnit(unit, unitBytes), mode);
+            canvas.setPixel(low16(x), low16(y), GGrfReadUnit(unit, unitBytes), mode);
         }
     }
 }
@@ -85,14 +84,14 @@ class PackedPainter {
                 ++at;
                 advance(count);
             } else if (control.hasUnits() && control.fills()) {
-                const uint32_t unit = readUnit(at, packing_.bytes);
+                const uint32_t unit = GGrfReadUnit(at, packing_.bytes);
                 at += packing_.bytes;
                 for (int32_t i = 0; i < count && !isDone(); ++i) {
                     plotUnit(unit);
                 }
             } else if (control.hasUnits()) {
                 for (int32_t i = 0; i < count && !isDone(); ++i, at += packing_.bytes) {
-                    plotUnit(readUnit(at, packing_.bytes));
+                    plotUnit(GGrfReadUnit(at, packing_.bytes));
                 }
             }
         }
@@ -166,7 +165,8 @@ void draw(GDrawHandle* handle, const GGrfImage& image, const uint8_t* stream, co
         contains(canvas.area, box) && widthOf(box) == image.width && heightOf(box) == image.height;
     if (isPacked(image)) {
         PackedPainter(canvas, image, place).draw(stream);
-    } else if (canvas.kernels != nullptr && bytesOfUnit(image) == canvas.kernels->bytesPerPixel) {
+    } else if (canvas.kernels != nullptr &&
+               GGrfBytesOfUnit(&image) == canvas.kernels->bytesPerPixel) {
         drawByKernel(canvas, image, stream, place);
     } else {
         drawByPieces(canvas, image, stream, place);

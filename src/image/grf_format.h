@@ -1,15 +1,11 @@
 // What the record of a GRF image says about its stream.
 #pragma once
 
-#include <quarlo/image.h>
+#include <quarlo/grf_stream.h>
 
 #include <cstdint>
 
 namespace quarlo {
-
-inline int32_t bytesOfUnit(const GGrfImage& image) {
-    return (image.bits + 7) / 8;
-}
 
 inline bool isPacked(const GGrfImage& image) {
     return image.type == G_GRF_PALETTE && image.palette != nullptr;
@@ -28,10 +24,10 @@ struct Packing {
     int32_t pixels; ///< in a unit
 
     explicit Packing(const GGrfImage& image)
-        : bits(image.bits), bytes(bytesOfUnit(image)), pixels(8 * bytes / bits) {}
+        : bits(image.bits), bytes(GGrfBytesOfUnit(&image)), pixels(GGrfPixelsOfUnit(&image)) {}
 
     uint32_t index(uint32_t unit, int32_t pixel) const {
-        return unit >> (8 * bytes - (pixel + 1) * bits) & ((1U << bits) - 1);
+        return GGrfIndexInUnit(unit, pixel, bits, bytes);
     }
 };
 

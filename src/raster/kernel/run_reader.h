@@ -6,15 +6,6 @@
 
 namespace quarlo::kernel {
 
-/// Low byte first.
-inline uint32_t readUnit(const uint8_t* at, int32_t bytes) {
-    uint32_t value = 0;
-    for (int32_t i = 0; i < bytes; ++i) {
-        value |= uint32_t{at[i]} << (8 * i);
-    }
-    return value;
-}
-
 /// The byte that a run begins with: a count in the low 6 bits, the kind in the others.
 struct RunControl {
     uint8_t byte;
