@@ -32,6 +32,7 @@
 #define QUARLO_GRF_FILE_H
 
 #include <quarlo/grf_stream.h>
+#include <quarlo/surface.h>
 
 QUARLO_BEGIN
 
@@ -106,6 +107,9 @@ static inline int32_t GGrfOpenFile(GGrfFile* file, const uint8_t* bytes, size_t 
 static inline int32_t GGrfCanZoom(const GGrfFile* file) {
     return file->image.bits <= 8;
 }
+
+/** Whether an image was made for surfaces of this kind. Indexes are for any with a palette. */
+static inline int32_t GGrfFitsSurface(const GGrfFile* file, const GVram* surface);
 
 /* How it is done. */
 
@@ -286,6 +290,14 @@ static inline int32_t GGrfInspectFile(GGrfFile* file, const uint8_t* bytes, size
         GGrfInspectRuns(&inspection, start, file->image.size < there ? file->image.size : there);
     }
     return inspection.faults;
+}
+
+static inline int32_t GGrfFitsSurface(const GGrfFile* file, const GVram* surface) {
+    if (surface->colorType == G_COLOR_PALETTE)
+        return !GGrfHasMasks(file);
+    return (GGrfIsPacked(file) || file->image.bits == surface->bitsPerPixel) &&
+           file->redMask == surface->redMask && file->greenMask == surface->greenMask &&
+           file->blueMask == surface->blueMask;
 }
 
 static inline void GGrfIgnoreFault(void* context, GGrfFault fault, size_t offset) {

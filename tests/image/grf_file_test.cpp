@@ -83,6 +83,30 @@ TEST(GrfFile, GivesTheColorsThatIndexesStandFor) {
     EXPECT_EQ(file.colors[1], 0xFF0000U);
 }
 
+TEST(GrfFile, FitsTheSurfacesThatItWasMadeFor) {
+    const GuardedSurface surfaces[] = {{1, 1, 8}, {1, 1, 16}, {1, 1, 24}, {1, 1, {0, 0xFFFFFF}}};
+    const auto fits = [&surfaces](const GrfFields& fields) {
+        const FileBytes bytes = bytesOf(fields);
+        GGrfFile file;
+        EXPECT_EQ(GGrfOpenFile(&file, bytes.data(), bytes.size()), 1);
+        std::vector<int32_t> results;
+        for (const GuardedSurface& surface : surfaces) {
+            results.push_back(GGrfFitsSurface(&file, &*surface));
+        }
+        return results;
+    };
+    using Results = std::vector<int32_t>;
+    EXPECT_EQ(fits(directFields()), (Results{1, 0, 0, 0}));
+    EXPECT_EQ(fits(wideFields()), (Results{0, 1, 0, 0}));
+    EXPECT_EQ(fits(indexedFields()), (Results{0, 0, 0, 1}));
+    GrfFields packed = packedFields(); // for 5-6-5
+    EXPECT_EQ(fits(packed), (Results{0, 0, 0, 0}));
+    packed.red = 0x0000FF;
+    packed.green = 0x00FF00;
+    packed.blue = 0xFF0000;
+    EXPECT_EQ(fits(packed), (Results{0, 0, 1, 0}));
+}
+
 TEST(GrfFile, LacksNothingButItsEndInAnyPrefix) {
     for (const GrfFields& good : goodFiles()) {
         const FileBytes whole = bytesOf(good);

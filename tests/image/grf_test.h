@@ -26,6 +26,18 @@ class ExactStream {
     GuardedMemory memory_;
 };
 
+/// The record of a case; its stream is given beside it.
+inline GGrfImage grfRecord(const GrfCase& call) {
+    static const GGrfPalette palette{0, grfPalette().data()};
+    return {call.type,
+            call.width,
+            call.height,
+            call.bits,
+            0,
+            nullptr,
+            call.palette ? &palette : nullptr};
+}
+
 enum class GrfThrough { Kernels, CopiedOps, Device };
 
 /// What is wrong after drawing a case; an empty text if nothing is.
@@ -41,15 +53,7 @@ std::string grfDifference(const GrfCase& call, GrfThrough through, int16_t depth
             surface->memory().data()[i] = static_cast<uint8_t>(i * 29);
         }
     }
-    const auto& colors = grfPalette();
-    const GGrfPalette palette{0, colors.data()};
-    const GGrfImage image{call.type,
-                          call.width,
-                          call.height,
-                          call.bits,
-                          0,
-                          nullptr,
-                          call.palette ? &palette : nullptr};
+    const GGrfImage image = grfRecord(call);
     const ExactStream stream(call.stream);
     CopiedOps ops;
     GDSetClipRect(drawing, &kGrfClip);

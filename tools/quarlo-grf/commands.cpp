@@ -122,17 +122,20 @@ ExitStatus encode(const Options& options) {
     const Picture picture = readPicture(options.operand(0));
     const Image image =
         with(options.operand(0), [&](const std::string&) { return imageOf(picture, target); });
-    const auto stream = encodeRuns(image);
-    write(options.operand(1), writeGrf(image, stream));
-    if (!options.has("--quiet")) {
-        std::cerr << options.operand(0) << ": " << describeSaving(image, stream.size()) << '\n';
+    const auto bytes = writeGrf(image, encodeRuns(image));
+    write(options.operand(1), bytes);
+    GGrfFile made;
+    if (!options.has("--quiet") && GGrfOpenFile(&made, bytes.data(), bytes.size()) != 0) {
+        std::cerr << options.operand(0) << ": " << describeSaving(made) << '\n';
     }
     return kDone;
 }
 
 ExitStatus decode(const Options& options) {
-    const OpenImage image(options.operand(0));
-    write(options.operand(1), writePng(pictureOf(decodeRuns(image.file))));
+    const OpenImage opened(options.operand(0));
+    const Image image =
+        with(options.operand(0), [&](const std::string&) { return decodeRuns(opened.file); });
+    write(options.operand(1), writePng(pictureOf(image)));
     return kDone;
 }
 

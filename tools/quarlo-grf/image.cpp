@@ -42,25 +42,27 @@ std::vector<Pixel> flattened(const Picture& picture, const std::optional<Color>&
     return pixels;
 }
 
-/// Draws pixels behind others where a unit of `perUnit` pixels cannot leave them.
+[[noreturn]] void failForMatte(size_t pixel, int width) {
+    const size_t columns = static_cast<size_t>(width);
+    throw Failure("the transparent pixel at column " + std::to_string(pixel % columns) + ", row " +
+                  std::to_string(pixel / columns) +
+                  " shares a unit with drawn ones: it takes a matte or a palette of 8 bits");
+}
+
+/// Draws the matte where a unit of `perUnit` pixels begins with a drawn one and cannot leave
+/// others.
 void fillUnits(std::vector<Pixel>& pixels, size_t perUnit, const Target& target, int width) {
-    for (size_t first = 0; first < pixels.size(); ++first) {
-        if (!pixels[first]) {
+    size_t left = 0; // pixels of the unit that has begun
+    for (size_t i = 0; i < pixels.size(); ++i) {
+        if (left == 0) {
+            left = pixels[i] ? perUnit - 1 : 0;
             continue;
         }
-        const size_t end = std::min(first + perUnit, pixels.size());
-        for (; first + 1 < end; ++first) {
-            Pixel& pixel = pixels[first + 1];
-            if (!pixel && !target.matte) {
-                const size_t columns = static_cast<size_t>(width);
-                throw Failure("the transparent pixel at column " +
-                              std::to_string((first + 1) % columns) + ", row " +
-                              std::to_string((first + 1) / columns) +
-                              " shares a unit with drawn ones: it takes a matte or a palette of 8 "
-                              "bits");
-            }
-            pixel = pixel ? pixel : target.matte;
+        --left;
+        if (!pixels[i] && !target.matte) {
+            failForMatte(i, width);
         }
+        pixels[i] = pixels[i] ? pixels[i] : target.matte;
     }
 }
 

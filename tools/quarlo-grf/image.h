@@ -25,12 +25,6 @@ struct Image {
     int unitBytes() const { return (bits + 7) / 8; }
     int pixelsPerUnit() const { return packed ? 8 / bits : 1; }
 
-    /// Bytes that the values take without runs.
-    size_t rawBytes() const {
-        const auto perUnit = static_cast<size_t>(pixelsPerUnit());
-        return (values.size() + perUnit - 1) / perUnit * static_cast<size_t>(unitBytes());
-    }
-
     friend bool operator==(const Image&, const Image&) = default;
 };
 

@@ -1,10 +1,23 @@
 #include "info.h"
 
+#include "pixel_format.h"
 #include "run_decoder.h"
 
+#include <cstdint>
+#include <cstdlib>
 #include <sstream>
 
 namespace grf {
+namespace {
+
+/// Bytes that the values take without runs.
+int64_t rawBytesOf(const GGrfImage& image) {
+    const int64_t perUnit = GGrfPixelsOfUnit(&image);
+    const int64_t units = (int64_t{image.width} * image.height + perUnit - 1) / perUnit;
+    return units * GGrfBytesOfUnit(&image);
+}
+
+} // namespace
 std::string describeFormat(const GGrfFile& file) {
     const GGrfImage& image = file.image;
     const PixelFormat format{file.redMask, file.greenMask, file.blueMask};
@@ -20,24 +33,22 @@ std::string describeFormat(const GGrfFile& file) {
 }
 
 std::string describe(const GGrfFile& file) {
-    const Image image = decodeRuns(file);
     const auto runs = countRuns(file);
     std::ostringstream text;
     text << describeFormat(file) << '\n'
          << runs[G_GRF_SKIP] + runs[G_GRF_LITERAL] + runs[G_GRF_FILL]
          << " runs: " << runs[G_GRF_SKIP] << " skip, " << runs[G_GRF_LITERAL] << " literal, "
          << runs[G_GRF_FILL] << " fill\n"
-         << describeSaving(image, file.image.size) << '\n';
+         << describeSaving(file) << '\n';
     return text.str();
 }
 
-std::string describeSaving(const Image& image, size_t streamBytes) {
-    const size_t raw = image.rawBytes();
-    const bool saved = streamBytes <= raw;
-    const size_t difference = saved ? raw - streamBytes : streamBytes - raw;
+std::string describeSaving(const GGrfFile& file) {
+    const int64_t raw = rawBytesOf(file.image);
+    const int64_t saved = raw - file.image.size;
     std::ostringstream text;
-    text << streamBytes << " bytes of runs against " << raw << " raw: " << difference
-         << (saved ? " saved (" : " more (") << 100 * difference / raw << " %)";
+    text << file.image.size << " bytes of runs against " << raw << " raw: " << std::abs(saved)
+         << (saved >= 0 ? " saved (" : " more (") << 100 * std::abs(saved) / raw << " %)";
     return text.str();
 }
 

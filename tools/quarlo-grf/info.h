@@ -1,11 +1,8 @@
 // What there is to say about an image.
 #pragma once
 
-#include "image.h"
-
 #include <quarlo/grf_file.h>
 
-#include <cstddef>
 #include <string>
 
 namespace grf {
@@ -18,6 +15,6 @@ std::string describeFormat(const GGrfFile& file);
 std::string describe(const GGrfFile& file);
 
 /// Like "812 bytes of runs against 2048 raw: 1236 saved (60 %)".
-std::string describeSaving(const Image& image, size_t streamBytes);
+std::string describeSaving(const GGrfFile& file);
 
 } // namespace grf

@@ -16,6 +16,9 @@ struct Color {
     friend bool operator==(const Color&, const Color&) = default;
 };
 
+/// Larger pictures and images are refused, lest a small file take all memory.
+inline constexpr int64_t kMostPixels = 16'000'000;
+
 /// Rows of pixels, the upper left one first.
 struct Picture {
     int width;

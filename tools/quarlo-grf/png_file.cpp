@@ -10,7 +10,6 @@ namespace grf {
 namespace {
 
 constexpr png_uint_32 kLongestSide = INT16_MAX;
-constexpr uint64_t kMostPixels = 16'000'000;
 constexpr size_t kChannels = 4;
 
 /// libpng's view of a picture, given back at the end.
@@ -45,7 +44,7 @@ Picture readPng(std::span<const uint8_t> file) {
     image.require(png_image_begin_read_from_memory(image.get(), file.data(), file.size()));
     image->format = PNG_FORMAT_RGBA;
     if (image->width > kLongestSide || image->height > kLongestSide ||
-        uint64_t{image->width} * image->height > kMostPixels) {
+        int64_t{image->width} * image->height > kMostPixels) {
         throw Failure("the picture is too large: " + std::to_string(image->width) + " x " +
                       std::to_string(image->height));
     }

@@ -1,6 +1,8 @@
 #include "run_decoder.h"
 
-#include <algorithm>
+#include "failure.h"
+
+#include <string>
 
 namespace grf {
 namespace {
@@ -19,6 +21,10 @@ void forEachRun(const GGrfImage& image, Action action) {
 
 Image decodeRuns(const GGrfFile& file) {
     const GGrfImage& record = file.image;
+    if (int64_t{record.width} * record.height > kMostPixels) {
+        throw Failure("the image is too large: " + std::to_string(record.width) + " x " +
+                      std::to_string(record.height));
+    }
     const size_t pixels = static_cast<size_t>(record.width) * static_cast<size_t>(record.height);
     const bool packed = record.type == G_GRF_PALETTE;
     Image image{record.width,

@@ -11,6 +11,8 @@
 namespace grf {
 
 /// The values of an image, from a file that GGrfOpenFile() took.
+///
+/// @throws Failure for more than kMostPixels
 Image decodeRuns(const GGrfFile& file);
 
 /// How many runs of each kind a stream has, G_GRF_SKIP to G_GRF_FILL.

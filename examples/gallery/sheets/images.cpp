@@ -67,8 +67,8 @@ void natural(GDrawHandle* handle, const GRect& whole) {
 
 /// Transparent pixels leave what is there.
 void transparent(GDrawHandle* handle, const GRect& whole) {
-    constexpr int kChequers = 12;
-    GDSetFillAttribute(handle, kChequers, kSand, kBlue);
+    constexpr int kStripes = 12;
+    GDSetFillAttribute(handle, kStripes, kSand, kBlue);
     noPen(handle);
     GDDrawRect(handle, &whole);
     putAll(handle, whole, bare24, 3, 2);
@@ -220,10 +220,10 @@ void drawImageFigures(GDrawHandle* handle) {
     drawFigure(handle, grid.figure(0), "Transparent", on(format24(), transparent));
     drawFigure(handle, grid.figure(1), "Cropped", on(format24(), cropped));
     drawFigure(handle, grid.figure(2), "Clipped", on(format24(), clipped));
-    drawFigure(handle, grid.figure(3), "In four formats", formats);
+    drawFigure(handle, grid.figure(3), "24 to 8 bits", formats);
     drawFigure(handle, grid.figure(4), "Enlarged", on(paletteFormat(colors), enlarged));
     drawFigure(handle, grid.figure(5), "Stretched", on(paletteFormat(colors), resized));
-    drawFigure(handle, grid.figure(6), "1, 2, 4 and 8 bits", on(format24(), packed));
+    drawFigure(handle, grid.figure(6), "Packed, 1 to 8 bits", on(format24(), packed));
     drawFigure(handle, grid.figure(7), "Four palettes", on(format24(), palettes));
 }
 

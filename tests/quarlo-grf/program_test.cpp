@@ -110,6 +110,16 @@ TEST_F(GrfProgram, NamesWhatIsMalformed) {
     EXPECT_EQ(run("check < bad.grf").status, 1);
 }
 
+TEST_F(GrfProgram, RefusesToTakeAllMemory) {
+    GrfFields vast = directFields();
+    vast.width = vast.height = 32767;
+    write("vast.grf", bytesOf(vast));
+    EXPECT_EQ(run("check vast.grf").status, 0);
+    EXPECT_EQ(run("info vast.grf").status, 0);
+    EXPECT_EQ(run("decode vast.grf").messages,
+              "quarlo-grf: vast.grf: the image is too large: 32767 x 32767\n");
+}
+
 TEST_F(GrfProgram, DumpsATableInTheOrderOfItsFiles) {
     write("b-2.grf", bytesOf(directFields()));
     write("a.grf", bytesOf(wideFields()));
