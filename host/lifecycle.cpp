@@ -1,5 +1,6 @@
 #include "lifecycle.h"
 
+#include "clock/time_source.h"
 #include "guard.h"
 #include "nc/make_controller.h"
 #include "platform.h"
@@ -58,6 +59,7 @@ GWord stopPlatform() {
     self.dataServer.reset();
     self.files.reset();
     self.fonts.reset();
+    releaseTime();
     return kept;
 }
 

@@ -1,6 +1,6 @@
 #include "clock/clock.h"
 
-#include <chrono>
+#include "clock/time_source.h"
 
 namespace gpi {
 namespace {
@@ -8,9 +8,7 @@ namespace {
 constexpr uint64_t kCountMask = UINT64_MAX >> 1;
 
 uint64_t monotonicMilliseconds() {
-    using namespace std::chrono;
-    return static_cast<uint64_t>(
-        duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count());
+    return static_cast<uint64_t>(steadyMilliseconds());
 }
 
 } // namespace

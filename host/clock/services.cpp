@@ -1,5 +1,6 @@
 #include "clock/services.h"
 
+#include "clock/time_source.h"
 #include "platform.h"
 
 #include <chrono>
@@ -24,9 +25,7 @@ int32_t getSystemTime(GSystemTime* time) {
 }
 
 uint32_t timeOfDay(uint32_t* time) {
-    using namespace std::chrono;
-    const auto seconds = static_cast<uint32_t>(
-        duration_cast<std::chrono::seconds>(system_clock::now().time_since_epoch()).count());
+    const uint32_t seconds = secondsOfDay();
     if (time != nullptr) {
         *time = seconds;
     }

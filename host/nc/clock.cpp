@@ -1,12 +1,11 @@
 #include "nc/clock.h"
 
-#include <chrono>
+#include "clock/time_source.h"
 
 namespace gpi::nc {
 
 int64_t steadyMilliseconds() {
-    using namespace std::chrono;
-    return duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count();
+    return gpi::steadyMilliseconds();
 }
 
 } // namespace gpi::nc

@@ -9,7 +9,7 @@ namespace gpi::nc {
 /// Milliseconds that never jump: the system's, or a test's.
 using Clock = std::function<int64_t()>;
 
-/// The system's, whatever a panel sets its own clock to.
+/// The platform's, whatever a panel sets its own clock to.
 int64_t steadyMilliseconds();
 
 } // namespace gpi::nc

@@ -152,6 +152,19 @@ GPI_API int32_t GPIHostFeedKey(int32_t key, int32_t down);
  */
 GPI_API int32_t GPIHostFeedPointer(int32_t x, int32_t y, uint32_t buttons);
 
+/**
+ * Stops the platform's clocks, so that a run can be repeated to the millisecond: for scripts and
+ * tests. The clock of timers (service 28), the time of day and the simulated control's stand still
+ * and move on by GPIHostStepClock() only, until the platform stops. Waits take the time they take.
+ *
+ * @param timeOfDay what GETime() says from now on
+ * @return 1
+ */
+GPI_API int32_t GPIHostHoldClock(uint32_t timeOfDay);
+
+/** Lets clocks that are held go on. @return 1; 0 when they are not held */
+GPI_API int32_t GPIHostStepClock(uint32_t milliseconds);
+
 QUARLO_END
 
 #endif

@@ -1,5 +1,6 @@
 #include "support/started_platform.h"
 
+#include <gpi/host.h>
 #include <quarlo/timer.h>
 
 #include <gtest/gtest.h>
@@ -83,6 +84,36 @@ TEST(TickClock, WrapsAroundAt63Bits) {
 TEST(TickClock, RefusesNull) {
     EXPECT_EQ(getTime(nullptr), -1);
     EXPECT_EQ(setTime(nullptr), 0);
+}
+
+TEST(HeldClock, StandsStillAndMovesBySteps) {
+    const StartedPlatform platform;
+    ASSERT_EQ(GPIHostHoldClock(1'000'000), 1);
+    const int64_t start = ticks();
+    EXPECT_EQ(timeOfDay(nullptr), 1'000'000);
+    EXPECT_EQ(GPIHostStepClock(2'999), 1);
+    EXPECT_EQ(ticks(), start + 2'999);
+    EXPECT_EQ(timeOfDay(nullptr), 1'000'002);
+    EXPECT_EQ(GPIHostStepClock(1), 1);
+    EXPECT_EQ(ticks(), start + 3'000);
+    EXPECT_EQ(timeOfDay(nullptr), 1'000'003);
+}
+
+TEST(HeldClock, CanBeSet) {
+    const StartedPlatform platform;
+    GPIHostHoldClock(0);
+    set(kMinute);
+    GPIHostStepClock(10);
+    EXPECT_EQ(ticks(), kMinute + 10);
+}
+
+TEST(HeldClock, IsTheSystemsAgainOnceThePlatformStops) {
+    {
+        const StartedPlatform platform;
+        GPIHostHoldClock(1'000'000);
+    }
+    EXPECT_EQ(GPIHostStepClock(1), 0);
+    EXPECT_GT(timeOfDay(nullptr), 1'000'000'000U);
 }
 
 TEST(TimeOfDay, IsTheSystems) {
