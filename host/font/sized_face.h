@@ -60,6 +60,7 @@ class SizedFace {
     Size whole_;   ///< for ideographs and bitmaps
     Size letters_; ///< null with bitmaps
     int ascent_ = 0;
+    int letterAscent_ = 0; ///< of letters, where it is another one
     bool bitmaps_ = false;
 };
 

@@ -252,6 +252,26 @@ TEST(Fonts, HaveLevelsOfTheDepth) {
     EXPECT_FALSE(setDepth(font, 8));
 }
 
+/// The last row of a glyph that has anything in it; -1 for none.
+int lastRow(const Answer& answer) {
+    for (int at = answer.width * answer.height - 1; at >= 0; --at) {
+        if (answer.level(at % answer.width, at / answer.width) != 0) {
+            return at / answer.width;
+        }
+    }
+    return -1;
+}
+
+TEST(Fonts, ShowDescendersOfSmoothLettersWhole) {
+    StartedPlatform platform;
+    GFontRecord* const font = load(kPanel);
+    ASSERT_TRUE(setDepth(font, 4));
+    for (const int16_t height : std::initializer_list<int16_t>{16, 24, 32, 48}) {
+        ASSERT_EQ(setSize(font, static_cast<int16_t>(height / 2), height), 1);
+        EXPECT_GE(lastRow(ask(font, u"g")) - lastRow(ask(font, u"x")), height * 3 / 16) << height;
+    }
+}
+
 TEST(Fonts, OfBitmapsHaveTwoLevelsAtAnyDepth) {
     StartedPlatform platform{{"QUARLO_PANEL_FONT", kUnifont}};
     GFontRecord* const font = load(kPanel);
