@@ -104,12 +104,11 @@ void SizedFace::setEm(FT_F26Dot6 width, FT_F26Dot6 height) {
 }
 
 void SizedFace::scaleToIdeographs() {
-    // Ideographs fill their em square, of which about a seventh lies below the base line. One-bit
-    // letters are hinted to whole rows, of which descenders get one more.
-    // Smooth letters reach from 13 sixteenths above their base line to 3 below.
+    // Ideographs fill their em square, of which about a seventh lies below the base line.
+    // Letters reach from 13 sixteenths above their base line to 3 below.
     setEm(size_.wide * 64, size_.height * 64);
     ascent_ = grey_ ? (size_.height * 6 + 3) / 7 : (size_.height * 5 + 3) / 6;
-    letterAscent_ = grey_ ? size_.height * 13 / 16 : ascent_;
+    letterAscent_ = size_.height * 13 / 16;
 }
 
 void SizedFace::scaleToLetters() {

@@ -1,0 +1,89 @@
+#include "look/painter.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace panel {
+namespace {
+
+constexpr char16_t kFaceName[] = u"TORVANDELL CNC Gothic";
+
+/// Edges are smooth where pixels between two colours can be had.
+uint8_t glyphBits(const GVram& display) {
+    return display.colorType == G_COLOR_PALETTE ? 1 : 4;
+}
+
+} // namespace
+
+Painter::Painter() : handle_(GDOpenDrawHandle(0, 0)) {
+    if (handle_ == nullptr) {
+        return;
+    }
+    const GVram& display = *GDGetVram(handle_);
+    measures_ = &measuresFor(display.width, display.height);
+    palette_ = preparePalette(handle_);
+    GDSetTextMode(handle_, G_TEXT_TRANSPARENT);
+    GSimpleFont font{};
+    std::copy(std::begin(kFaceName), std::end(kFaceName), font.face);
+    font.bitsPerPixel = glyphBits(display);
+    for (size_t i = 0; i < kFaceCount; ++i) {
+        font.size = static_cast<uint8_t>(measures_->faces[i]);
+        fonts_[i] = GDSetSimpleFont(handle_, &font);
+    }
+}
+
+Painter::~Painter() {
+    GDCloseDrawHandle(handle_);
+    for (GFontRecord* const font : fonts_) {
+        GFReleaseFont(font);
+    }
+}
+
+bool Painter::ready() const {
+    return handle_ != nullptr && std::find(fonts_.begin(), fonts_.end(), nullptr) == fonts_.end();
+}
+
+void Painter::fill(const GRect& rect, Ink ink) const {
+    GDSetPenColor(handle_, G_NO_COLOR);
+    GDSetFillAttribute(handle_, G_FILL_FORE, color(ink), color(ink));
+    GDDrawRect(handle_, &rect);
+}
+
+void Painter::frame(const GRect& rect, Ink ink) const {
+    GDSetPenColor(handle_, color(ink));
+    GDSetFillPattern(handle_, G_FILL_NONE);
+    GDDrawRect(handle_, &rect);
+}
+
+void Painter::plate(const GRect& rect, Ink ground, Ink edge) const {
+    GDSetPenColor(handle_, color(edge));
+    GDSetFillAttribute(handle_, G_FILL_FORE, color(ground), color(ground));
+    GDDrawRRect(handle_, &rect, measures_->radius, measures_->radius);
+}
+
+void Painter::line(int x1, int y1, int x2, int y2, Ink ink) const {
+    GDSetPenColor(handle_, color(ink));
+    GDMoveTo(handle_, static_cast<int16_t>(x1), static_cast<int16_t>(y1));
+    GDLineTo(handle_, static_cast<int16_t>(x2), static_cast<int16_t>(y2));
+}
+
+void Painter::text(const GRect& rect, const TextLook& look, const std::u16string& text) const {
+    if (text.empty()) {
+        return;
+    }
+    select(look.face);
+    const GCaptionAttr attr{
+        color(look.ink), static_cast<uint8_t>(look.align), G_ALIGN_MIDDLE, 0, 0, 0, 0};
+    GDDrawCaptionString(handle_, &rect, &attr, text.c_str());
+}
+
+void Painter::select(Face face) const {
+    GDSetFont(handle_, fonts_[static_cast<size_t>(face)]);
+}
+
+int16_t Painter::widthOf(Face face, const std::u16string& text) const {
+    select(face);
+    return GDGetStringWidth(handle_, text.c_str());
+}
+
+} // namespace panel

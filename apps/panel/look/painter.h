@@ -1,0 +1,60 @@
+// Draws what the panel is made of in its style.
+#pragma once
+
+#include "look/box.h"
+#include "look/style.h"
+
+#include <string>
+
+namespace panel {
+
+enum class Align : uint8_t { Left = G_ALIGN_LEFT, Centre = G_ALIGN_CENTRE, Right = G_ALIGN_RIGHT };
+
+/// How a text looks.
+struct TextLook {
+    Face face = Face::Text;
+    Ink ink = Ink::Text;
+    Align align = Align::Left;
+};
+
+/// The display with colours and fonts. What is drawn is seen when it is flushed, not before.
+class Painter {
+  public:
+    /// Opens the display. The platform must run.
+    Painter();
+    ~Painter();
+    Painter(const Painter&) = delete;
+    Painter& operator=(const Painter&) = delete;
+
+    /// Whether there is a display, and a font.
+    bool ready() const;
+
+    GDrawHandle* handle() const { return handle_; }
+    const Measures& measures() const { return *measures_; }
+    uint32_t color(Ink ink) const { return palette_[ink]; }
+    GRect display() const { return handle_->view; }
+
+    /// Confines drawing to an area.
+    void clip(const GRect& area) const { GDSetClipRect(handle_, &area); }
+
+    void fill(const GRect& rect, Ink ink) const;
+    /// Outline of one pixel.
+    void frame(const GRect& rect, Ink ink) const;
+    /// With round corners, filled and outlined.
+    void plate(const GRect& rect, Ink ground, Ink edge) const;
+    void line(int x1, int y1, int x2, int y2, Ink ink) const;
+    /// A text in the middle of a rectangle's height, cut off at its edges. It may have lines.
+    void text(const GRect& rect, const TextLook& look, const std::u16string& text) const;
+
+    /// Makes a font the handle's, for calls that draw with it.
+    void select(Face face) const;
+    int16_t widthOf(Face face, const std::u16string& text) const;
+
+  private:
+    GDrawHandle* handle_ = nullptr;
+    const Measures* measures_ = nullptr;
+    Palette palette_{};
+    std::array<GFontRecord*, kFaceCount> fonts_{};
+};
+
+} // namespace panel

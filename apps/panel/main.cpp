@@ -1,0 +1,76 @@
+// The operator panel of a milling machine.
+#include "options.h"
+#include "panel.h"
+#include "script/script.h"
+
+#include <gpi/host.h>
+#include <quarlo/quarlo.h>
+
+#include <chrono>
+#include <fstream>
+#include <iostream>
+
+namespace {
+
+enum ExitStatus { kDone = 0, kFailed = 1, kMisused = 2 };
+
+/// 2024-03-01 08:00:00: scripts begin at the same time of the same day.
+constexpr uint32_t kScriptTime = 1'709'280'000;
+
+uint64_t microseconds() {
+    using namespace std::chrono;
+    return static_cast<uint64_t>(
+        duration_cast<std::chrono::microseconds>(steady_clock::now().time_since_epoch()).count());
+}
+
+ExitStatus runScript(const panel::Options& options, panel::PanelOptions start) {
+    std::ifstream lines(*options.script);
+    if (!lines) {
+        std::cerr << "panel: " << *options.script << " cannot be read\n";
+        return kMisused;
+    }
+    GPIHostHoldClock(kScriptTime);
+    start.scripted = true;
+    panel::Panel panel(start);
+    if (!panel.ready()) {
+        return kFailed;
+    }
+    if (const auto wrong = panel::Script(panel, options.shots).run(lines)) {
+        std::cerr << "panel: " << *options.script << ": " << *wrong << '\n';
+        return kFailed;
+    }
+    return kDone;
+}
+
+ExitStatus runPanel(panel::PanelOptions start) {
+    start.microseconds = microseconds;
+    panel::Panel panel(start);
+    if (!panel.ready()) {
+        return kFailed;
+    }
+    panel.run();
+    return kDone;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const auto options = panel::parseOptions(argc, argv);
+    if (!options) {
+        std::cerr << panel::kUsage;
+        return kMisused;
+    }
+    GetGPIFunction();
+    if (GDInitPlatform(0) == 0) {
+        std::cerr << "panel: the platform did not start\n";
+        return kFailed;
+    }
+    panel::PanelOptions start;
+    start.language = options->language.value_or(0);
+    start.program = options->program;
+    const ExitStatus status = options->script ? runScript(*options, start) : runPanel(start);
+    if (status == kFailed) {
+        std::cerr << "panel: the run failed\n";
+    }
+    return GDQuitPlatform() != 0 ? status : kFailed;
+}

@@ -1,0 +1,488 @@
+#include "panel.h"
+
+#include "text/format.h"
+
+#include <gpi/keys.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace panel {
+namespace {
+
+constexpr uint32_t kMovingInterval = 50; // milliseconds between looks at a machine that moves
+constexpr uint32_t kRestingInterval = 200;
+constexpr uint32_t kSecond = 1000;
+
+constexpr double kOverrideStep = 10.0; // percent
+constexpr double kMostOverride = 200.0;
+
+constexpr SoftKey kScreenKeys[] = {
+    {Action::ShowPosition, u"Position", PANEL_ICONS_HANDWHEEL},
+    {Action::ShowProgram, u"Program", PANEL_ICONS_PROGRAM},
+    {Action::ShowGraphic, u"Graphic", PANEL_ICONS_GRAPHIC},
+    {Action::ShowOffsets, u"Offsets", PANEL_ICONS_OFFSETS},
+    {Action::ShowManual, u"Mdi", PANEL_ICONS_EDIT},
+    {Action::ShowAlarms, u"Alarms", PANEL_ICONS_ALARM},
+    {Action::ShowDiagnosis, u"Diagnosis", PANEL_ICONS_TOOL},
+    {Action::ShowSettings, u"Settings", PANEL_ICONS_SETTINGS},
+    {Action::ShowHelp, u"Help", PANEL_ICONS_HELP},
+};
+constexpr SoftKey kToFunctions{Action::SwitchKeys, u"Functions", PANEL_ICONS_RAPID};
+constexpr SoftKey kToScreens{Action::SwitchKeys, u"Screens", PANEL_ICONS_HOME};
+
+/// The display, cut into strips.
+struct Strips {
+    GRect status;
+    GRect work;
+    GRect message;
+    GRect keys;
+};
+
+Strips stripsOf(const Painter& painter) {
+    const Measures& measures = painter.measures();
+    Strips strips{};
+    strips.work = painter.display();
+    strips.status = takeTop(strips.work, measures.statusHeight);
+    strips.keys = takeBottom(strips.work, measures.keyHeight);
+    strips.message = takeBottom(strips.work, measures.messageHeight);
+    return strips;
+}
+
+Word reasonOf(int32_t result) {
+    switch (result) {
+    case G_NC_RANGE:
+        return u"RefusedRange";
+    case G_NC_READ_ONLY:
+        return u"RefusedReadOnly";
+    case G_NC_MODE:
+        return u"RefusedMode";
+    case G_NC_OFFLINE:
+        return u"RefusedOffline";
+    case G_NC_REFUSED:
+        return u"RefusedByControl";
+    default:
+        return u"RefusedUnknown";
+    }
+}
+
+void postPointer(PointerAction action, const GMessage& message) {
+    postEvent(EventType::Pointer, static_cast<uint32_t>(action),
+              static_cast<uint32_t>(message.param2));
+}
+
+/// Turns a message of the platform into an event.
+void postEventOf(const GMessage& message) {
+    switch (message.number) {
+    case G_MESSAGE_QUIT: {
+        GEventMsg quit;
+        GESetEvent(*GECreateEventMessage(&quit, G_EVENT_QUIT, kPanel, 0, 0), 0);
+        break;
+    }
+    case G_MESSAGE_KEY_DOWN:
+        postEvent(EventType::Key, static_cast<uint32_t>(message.param1),
+                  static_cast<uint32_t>(message.param2) & GPI_KEY_COUNT);
+        break;
+    case G_MESSAGE_KEY_UP:
+        postEvent(EventType::Key, static_cast<uint32_t>(message.param1), 0);
+        break;
+    case G_MESSAGE_POINTER_MOVE:
+        postPointer(PointerAction::Move, message);
+        break;
+    case G_MESSAGE_LEFT_DOWN:
+    case G_MESSAGE_LEFT_DOUBLE:
+        postPointer(PointerAction::Press, message);
+        break;
+    case G_MESSAGE_LEFT_UP:
+        postPointer(PointerAction::Release, message);
+        break;
+    default:
+        break;
+    }
+}
+
+} // namespace
+
+Panel::Panel(const PanelOptions& options)
+    : options_(options),
+      context_(options.scripted),
+      status_(context_, stripsOf(context_.painter).status),
+      message_(context_, stripsOf(context_.painter).message),
+      keys_(context_, stripsOf(context_.painter).keys,
+            [this](Action action) { return isOn(action); }) {
+    context_.work = stripsOf(context_.painter).work;
+    GEInitEvent();
+    GPIHostSetMessageHandler(onMessage, this);
+    GESetTimer(kPanel, SecondTimer, kSecond);
+    choose(options.language);
+    readMachine();
+    tickSecond();
+    if (!options.program.empty()) {
+        context_.orders.give(chooseProgram(wide(options.program)));
+    }
+    open(Action::ShowStart);
+    draw();
+}
+
+Panel::~Panel() {
+    GPIHostSetMessageHandler(nullptr, nullptr);
+    GEKillTimer(kPanel, SecondTimer);
+    GEKillTimer(kPanel, MachineTimer);
+    GEQuitEvent();
+}
+
+void Panel::onMessage(void*, const GMessage* message) {
+    postEventOf(*message);
+}
+
+void Panel::run() {
+    GEventMsg event;
+    while (!quits_) {
+        if (GEGetEvent(&event, static_cast<int32_t>(machineInterval_)) != 0) {
+            handle(event);
+        }
+        GECheckTimer();
+        context_.counters.add(Counters::Wakeups, 1);
+        handlePending();
+    }
+}
+
+bool Panel::handlePending() {
+    GEventMsg event;
+    while (!quits_ && GEGetEvent(&event, 0) != 0) {
+        handle(event);
+    }
+    update();
+    draw();
+    return !quits_;
+}
+
+void Panel::handle(const GEventMsg& event) {
+    context_.counters.add(Counters::Events, 1);
+    switch (event.type) {
+    case G_EVENT_QUIT:
+        quits_ = true;
+        break;
+    case G_EVENT_TIMER:
+        onTimer(static_cast<Timer>(event.param1));
+        break;
+    case static_cast<uint16_t>(EventType::Key):
+        onKey(static_cast<int32_t>(event.param1), event.param2);
+        break;
+    case static_cast<uint16_t>(EventType::Pointer):
+        onPointer(static_cast<PointerAction>(event.param1),
+                  {static_cast<int16_t>(event.param2 & 0xFFFF),
+                   static_cast<int16_t>(event.param2 >> 16)});
+        break;
+    case static_cast<uint16_t>(EventType::OrdersDone):
+        onOrdersDone(static_cast<int32_t>(event.param1));
+        break;
+    default:
+        break;
+    }
+}
+
+void Panel::onTimer(Timer timer) {
+    if (timer == MachineTimer) {
+        readMachine();
+    } else {
+        tickSecond();
+    }
+}
+
+void Panel::onKey(int32_t key, uint32_t count) {
+    if (count == 0) {
+        release(held_);
+        keys_.press(std::nullopt);
+        return;
+    }
+    if (key >= GPI_KEY_F1 && key < GPI_KEY_F1 + static_cast<int32_t>(SoftKeys::kCount)) {
+        const auto place = static_cast<size_t>(key - GPI_KEY_F1);
+        keys_.press(place);
+        act(keys_.action(place));
+    } else if (!screen_->key(key)) {
+        const KeyBinding* const binding = bindingOf(key);
+        if (binding != nullptr) {
+            act(binding->action);
+        }
+    }
+}
+
+void Panel::onPointer(PointerAction action, GPoint at) {
+    const auto key = keys_.at(at);
+    if (action == PointerAction::Press && key) {
+        keys_.press(key);
+        act(keys_.action(*key));
+        return;
+    }
+    if (action == PointerAction::Release) {
+        release(held_);
+        keys_.press(std::nullopt);
+    }
+    screen_->pointer(action, at);
+}
+
+void Panel::onOrdersDone(int32_t result) {
+    if (result == 1) {
+        context_.tell(nullptr, false);
+    } else {
+        context_.tell(reasonOf(result), true);
+    }
+    readMachine();
+}
+
+void Panel::act(Action action) {
+    const Snapshot& now = context_.now;
+    OrderQueue& orders = context_.orders;
+    if (action == held_ || screen_->act(action)) {
+        return; // a key that repeats
+    }
+    switch (action) {
+    case Action::SwitchKeys:
+        showKeys(!showsFunctions_);
+        break;
+    case Action::CycleStart:
+        orders.give(startCycle(now));
+        break;
+    case Action::FeedHold:
+        orders.give(command(G_NC_COMMAND_HOLD));
+        break;
+    case Action::Reset:
+        orders.give(command(G_NC_COMMAND_RESET));
+        break;
+    case Action::EmergencyStop:
+        orders.give({setSystem(G_NC_SYSTEM_EMERGENCY, 1)});
+        break;
+    case Action::PowerUp:
+        orders.give(powerUp());
+        break;
+    case Action::Home:
+        orders.give(home());
+        break;
+    case Action::ManualMode:
+        orders.give({setSystem(G_NC_SYSTEM_MODE, G_NC_MODE_MANUAL)});
+        break;
+    case Action::AutoMode:
+        orders.give({setSystem(G_NC_SYSTEM_MODE, G_NC_MODE_AUTO)});
+        break;
+    case Action::SingleBlock:
+        toggle(G_NC_SYSTEM_SINGLE_BLOCK, now.singleBlock);
+        break;
+    case Action::BlockSkip:
+        toggle(G_NC_SYSTEM_BLOCK_SKIP, now.blockSkip);
+        break;
+    case Action::OptionalStop:
+        toggle(G_NC_SYSTEM_OPTIONAL_STOP, now.optionalStop);
+        break;
+    case Action::DryRun:
+        toggle(G_NC_SYSTEM_DRY_RUN, now.dryRun);
+        break;
+    case Action::NextAxis:
+        context_.axis = static_cast<Axis>((context_.axis + 1) % kAxes);
+        break;
+    case Action::JogStep:
+        context_.jogStep = (context_.jogStep + 1) % kJogSteps.size();
+        break;
+    case Action::JogPlus:
+        held_ = action;
+        startJog(1.0);
+        break;
+    case Action::JogMinus:
+        held_ = action;
+        startJog(-1.0);
+        break;
+    case Action::FeedUp:
+        changeOverride(0, kOverrideStep);
+        break;
+    case Action::FeedDown:
+        changeOverride(0, -kOverrideStep);
+        break;
+    case Action::SpindleUp:
+        changeOverride(2, kOverrideStep);
+        break;
+    case Action::SpindleDown:
+        changeOverride(2, -kOverrideStep);
+        break;
+    case Action::ShowDamage:
+        context_.showDamage = !context_.showDamage;
+        redrawAll();
+        break;
+    case Action::Quit:
+        GAppExit(0);
+        break;
+    default:
+        open(action);
+        break;
+    }
+}
+
+void Panel::release(Action action) {
+    held_ = Action::None;
+    const bool jogs = action == Action::JogPlus || action == Action::JogMinus;
+    if (jogs && kJogSteps[context_.jogStep] == 0.0) {
+        context_.orders.give(jog(context_.axis, 0.0));
+    }
+}
+
+bool Panel::isOn(Action action) const {
+    const Snapshot& now = context_.now;
+    switch (action) {
+    case Action::CycleStart:
+        return now.online && now.state == G_NC_STATE_RUNNING;
+    case Action::FeedHold:
+        return now.online && now.state == G_NC_STATE_HELD;
+    case Action::SingleBlock:
+        return now.singleBlock;
+    case Action::BlockSkip:
+        return now.blockSkip;
+    case Action::OptionalStop:
+        return now.optionalStop;
+    case Action::DryRun:
+        return now.dryRun;
+    case Action::EmergencyStop:
+        return now.emergency;
+    case Action::PowerUp:
+        return now.power;
+    case Action::Home:
+        return now.homed;
+    case Action::ManualMode:
+        return now.mode == G_NC_MODE_MANUAL;
+    case Action::AutoMode:
+        return now.mode == G_NC_MODE_AUTO;
+    case Action::ShowDamage:
+        return context_.showDamage;
+    default:
+        return action == screenAction_ || screen_->isOn(action);
+    }
+}
+
+void Panel::open(Action action) {
+    auto& screen = screens_[action];
+    if (screen == nullptr) {
+        screen = makeScreen(action, context_);
+    }
+    if (screen == nullptr) {
+        return; // no screen's action
+    }
+    if (screen_ != nullptr) {
+        screen_->close();
+    }
+    screen_ = screen.get();
+    screenAction_ = action;
+    status_.setTitle(screen_->title());
+    screen_->open();
+    showKeys(!screen_->keys().empty());
+    redrawAll();
+}
+
+void Panel::showKeys(bool functions) {
+    showsFunctions_ = functions;
+    if (functions) {
+        keys_.show(screen_->keys(), kToScreens);
+    } else {
+        keys_.show(kScreenKeys, kToFunctions);
+    }
+}
+
+void Panel::choose(size_t language) {
+    context_.texts.choose(language);
+    if (screen_ != nullptr) {
+        screen_->open();
+    }
+    redrawAll();
+}
+
+void Panel::startJog(double direction) {
+    Orders orders;
+    if (context_.now.mode != G_NC_MODE_MANUAL) {
+        orders.push_back(setSystem(G_NC_SYSTEM_MODE, G_NC_MODE_MANUAL));
+    }
+    const double step = kJogSteps[context_.jogStep];
+    const Orders move = step == 0.0 ? jog(context_.axis, direction * kJogFeed)
+                                    : jogStep(context_.axis, direction * step);
+    orders.insert(orders.end(), move.begin(), move.end());
+    context_.orders.give(std::move(orders));
+}
+
+void Panel::changeOverride(int32_t number, double change) {
+    const double now = context_.now.overrides[static_cast<size_t>(number)];
+    const double next =
+        std::clamp(std::round(now / kOverrideStep) * kOverrideStep + change, 0.0, kMostOverride);
+    context_.orders.give({setValue(G_NC_OVERRIDE, number, 0, next)});
+}
+
+void Panel::toggle(int32_t systemValue, bool on) {
+    context_.orders.give({setSystem(systemValue, on ? 0 : 1)});
+}
+
+/// Looks at the machine, more often while it moves.
+void Panel::readMachine() {
+    context_.now = readSnapshot(context_.now);
+    context_.alarms.follow(readAlarms(context_.now.alarms), GETime(nullptr));
+    const bool moves = context_.now.online && context_.now.state == G_NC_STATE_RUNNING;
+    const uint32_t interval = moves ? kMovingInterval : kRestingInterval;
+    if (interval != machineInterval_) {
+        GEKillTimer(kPanel, MachineTimer);
+        GESetTimer(kPanel, MachineTimer, interval);
+        machineInterval_ = interval;
+    }
+}
+
+void Panel::tickSecond() {
+    Counters& counters = context_.counters;
+    const int32_t events = counters[Counters::Events];
+    counters.set(Counters::EventsOfSecond, events - eventsBefore_);
+    eventsBefore_ = events;
+    status_.tick(GETime(nullptr));
+}
+
+void Panel::update() {
+    status_.update();
+    message_.update();
+    keys_.update();
+    screen_->update();
+}
+
+void Panel::draw() {
+    if (!context_.damage.any()) {
+        return;
+    }
+    const uint64_t start = microseconds();
+    context_.damage.take([this](const GRect& area) { drawArea(area); });
+    Counters& counters = context_.counters;
+    const auto took = static_cast<int32_t>(microseconds() - start);
+    counters.set(Counters::LastMicros, took);
+    counters.set(Counters::WorstMicros, std::max(took, counters[Counters::WorstMicros]));
+}
+
+void Panel::drawArea(const GRect& area) {
+    const Painter& painter = context_.painter;
+    painter.clip(area);
+    status_.draw(area);
+    message_.draw(area);
+    keys_.draw(area);
+    GRect shared;
+    if (GRInceptRect(&area, &context_.work, &shared) != 0) {
+        painter.clip(shared);
+        painter.fill(context_.work, Ink::Desk);
+        screen_->draw(shared);
+    }
+    if (context_.showDamage) {
+        painter.clip(area);
+        painter.frame(area, Ink::Damage);
+    }
+    GDSetClipRect(painter.handle(), nullptr);
+    GDFlushScreen(painter.handle(), area.left, area.top, widthOf(area), heightOf(area));
+    context_.counters.add(Counters::Redraws, 1);
+    context_.counters.add(Counters::Pixels, widthOf(area) * heightOf(area));
+}
+
+void Panel::redrawAll() {
+    context_.damage.add(context_.painter.display());
+}
+
+uint64_t Panel::microseconds() const {
+    return options_.microseconds != nullptr ? options_.microseconds() : 0;
+}
+
+} // namespace panel

@@ -1,0 +1,18 @@
+#include "screens/screens.h"
+
+namespace panel {
+
+std::unique_ptr<Screen> makeScreen(Action action, Context& context) {
+    switch (action) {
+    case Action::ShowStart:
+        return makeStartScreen(context);
+    case Action::ShowPosition:
+        return makePositionScreen(context);
+    case Action::ShowHelp:
+        return makeHelpScreen(context);
+    default:
+        return nullptr;
+    }
+}
+
+} // namespace panel

@@ -1,0 +1,17 @@
+// The screens of the panel.
+#pragma once
+
+#include "screens/screen.h"
+
+#include <memory>
+
+namespace panel {
+
+std::unique_ptr<Screen> makeStartScreen(Context& context);
+std::unique_ptr<Screen> makePositionScreen(Context& context);
+std::unique_ptr<Screen> makeHelpScreen(Context& context);
+
+/// The screen that an action shows; null for any other action.
+std::unique_ptr<Screen> makeScreen(Action action, Context& context);
+
+} // namespace panel

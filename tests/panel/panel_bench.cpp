@@ -1,0 +1,40 @@
+#include "panel_bench.h"
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+namespace panel::test {
+namespace {
+
+Environment::Values valuesFor(const Environment::Values& changes, const std::string& user) {
+    Environment::Values values{{"QUARLO_PROFILES", PANEL_FOLDER "/profiles"},
+                               {"QUARLO_USER_PROFILES", user},
+                               {"QUARLO_FILES", PANEL_FOLDER "/programs"},
+                               {"QUARLO_FORMAT", "565"}};
+    for (const auto& [name, value] : changes) {
+        values[name] = value;
+    }
+    return values;
+}
+
+} // namespace
+
+Bench::Bench(const Environment::Values& changes, size_t language)
+    : platform_(valuesFor(changes, user_.path())) {
+    GetGPIFunction();
+    GPIHostHoldClock(kStartTime);
+    PanelOptions options;
+    options.scripted = true;
+    options.language = language;
+    panel_.emplace(options);
+    EXPECT_TRUE(panel_->ready());
+}
+
+void Bench::run(const std::string& lines) {
+    std::istringstream stream(lines);
+    const auto wrong = Script(*panel_, shots_.path()).run(stream);
+    EXPECT_FALSE(wrong) << *wrong;
+}
+
+} // namespace panel::test
