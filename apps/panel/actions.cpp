@@ -15,7 +15,7 @@ constexpr KeyBinding kBindings[] = {
     {'R', Action::Reset, u"R", u"Reset"},
     {GPI_KEY_PAUSE, Action::EmergencyStop, u"Pause", u"EmergencyStop"},
     {'P', Action::PowerUp, u"P", u"PowerUp"},
-    {GPI_KEY_HOME, Action::Home, u"Home", u"TakeReference"},
+    {'N', Action::Home, u"N", u"TakeReference"},
     {'M', Action::ManualMode, u"M", u"ModeManual"},
     {'A', Action::AutoMode, u"A", u"ModeAuto"},
     {'X', Action::NextAxis, u"X", u"NextAxis"},

@@ -7,6 +7,7 @@
 #include "damage.h"
 #include "look/painter.h"
 #include "machine/order_queue.h"
+#include "machine/program_file.h"
 #include "machine/snapshot.h"
 #include "text/texts.h"
 
@@ -31,6 +32,7 @@ struct Context {
     Counters counters;
 
     Snapshot now;         ///< the machine
+    ProgramFile program;  ///< the one that it has chosen
     Place relativeZero{}; ///< work position that the relative position counts from
     Axis axis = kX;       ///< that jog keys move
     size_t jogStep = 0;   ///< of kJogSteps

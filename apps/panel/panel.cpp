@@ -418,6 +418,9 @@ void Panel::toggle(int32_t systemValue, bool on) {
 /// Looks at the machine, more often while it moves.
 void Panel::readMachine() {
     context_.now = readSnapshot(context_.now);
+    if (context_.now.program != context_.program.path()) {
+        context_.program = ProgramFile(context_.now.program);
+    }
     context_.alarms.follow(readAlarms(context_.now.alarms), GETime(nullptr));
     const bool moves = context_.now.online && context_.now.state == G_NC_STATE_RUNNING;
     const uint32_t interval = moves ? kMovingInterval : kRestingInterval;

@@ -19,6 +19,12 @@ TEST(Projection, LooksFromAboveInThePlan) {
     expectPoint(project(Projection::Plan, {3, 4, 5}), 3, 4);
 }
 
+TEST(Projection, LooksFromTheFrontInTheElevation) {
+    expectPoint(project(Projection::Elevation, {3, 4, 5}), 3, 5);
+    const Point3 found = unproject(Projection::Elevation, {3, 5}, 7);
+    EXPECT_EQ(found, (Point3{3, 0, 5}));
+}
+
 TEST(Projection, RaisesAxesByThirtyDegreesInTheIsometricView) {
     const double cos30 = std::sqrt(3.0) / 2.0;
     expectPoint(project(Projection::Isometric, {1, 0, 0}), cos30, -0.5);

@@ -8,6 +8,10 @@ std::unique_ptr<Screen> makeScreen(Action action, Context& context) {
         return makeStartScreen(context);
     case Action::ShowPosition:
         return makePositionScreen(context);
+    case Action::ShowProgram:
+        return makeProgramScreen(context);
+    case Action::ShowGraphic:
+        return makeGraphicScreen(context);
     case Action::ShowHelp:
         return makeHelpScreen(context);
     default:

@@ -9,6 +9,13 @@ namespace panel {
 
 std::unique_ptr<Screen> makeStartScreen(Context& context);
 std::unique_ptr<Screen> makePositionScreen(Context& context);
+std::unique_ptr<Screen> makeProgramScreen(Context& context);
+std::unique_ptr<Screen> makeGraphicScreen(Context& context);
+std::unique_ptr<Screen> makeOffsetsScreen(Context& context);
+std::unique_ptr<Screen> makeManualScreen(Context& context);
+std::unique_ptr<Screen> makeAlarmsScreen(Context& context);
+std::unique_ptr<Screen> makeDiagnosisScreen(Context& context);
+std::unique_ptr<Screen> makeSettingsScreen(Context& context);
 std::unique_ptr<Screen> makeHelpScreen(Context& context);
 
 /// The screen that an action shows; null for any other action.

@@ -28,15 +28,25 @@ bool clipToEdge(double along, double room, double& enter, double& leave) {
 } // namespace
 
 Point2 project(Projection projection, const Point3& point) {
-    if (projection == Projection::Plan) {
+    switch (projection) {
+    case Projection::Plan:
         return {point[kX], point[kY]};
+    case Projection::Elevation:
+        return {point[kX], point[kZ]};
+    case Projection::Isometric:
+        break;
     }
     return {(point[kX] + point[kY]) * kCos30, (point[kY] - point[kX]) * kSin30 + point[kZ]};
 }
 
 Point3 unproject(Projection projection, const Point2& point, double height) {
-    if (projection == Projection::Plan) {
+    switch (projection) {
+    case Projection::Plan:
         return {point.x, point.y, height};
+    case Projection::Elevation:
+        return {point.x, 0.0, point.y};
+    case Projection::Isometric:
+        break;
     }
     const double sum = point.x / kCos30;
     const double difference = (point.y - height) / kSin30;

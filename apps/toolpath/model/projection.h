@@ -20,13 +20,14 @@ struct Box2 {
 
 enum class Projection : uint8_t {
     Plan,      ///< from above: X to the right, Y up
+    Elevation, ///< from the front: X to the right, Z up
     Isometric, ///< from the front right: X to the lower right, Y to the upper right, Z up
 };
 
 /// All three axes keep their true ratio; in the isometric view each is shown at the same scale.
 Point2 project(Projection projection, const Point3& point);
 
-/// The place at a height that is projected to a point.
+/// The place at a height, or in an elevation at Y 0, that is projected to a point.
 Point3 unproject(Projection projection, const Point2& point, double height);
 
 /// The box around a projected box.

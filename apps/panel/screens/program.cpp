@@ -1,0 +1,281 @@
+// The program: its text with the line that runs, or the list of programs to choose from.
+#include "parts/axis_card.h"
+#include "parts/list.h"
+#include "screens/screens.h"
+
+namespace panel {
+namespace {
+
+constexpr SoftKey kKeys[] = {
+    {Action::CycleStart, u"CycleStart", PANEL_ICONS_CYCLE_START},
+    {Action::FeedHold, u"FeedHold", PANEL_ICONS_FEED_HOLD},
+    {Action::SingleBlock, u"SingleBlock", PANEL_ICONS_SINGLE_BLOCK},
+    {Action::Reset, u"Reset", PANEL_ICONS_RESET},
+    {Action::OpenProgram, u"OpenProgram", PANEL_ICONS_PROGRAM},
+    {Action::FollowProgram, u"FollowProgram", PANEL_ICONS_TOOL},
+    {Action::BlockSkip, u"BlockSkip"},
+    {Action::OptionalStop, u"OptionalStop"},
+    {Action::DryRun, u"DryRun"},
+};
+
+class ProgramScreen : public Screen {
+  public:
+    using Screen::Screen;
+
+    Word title() const override { return u"Program"; }
+    std::span<const SoftKey> keys() const override { return kKeys; }
+    void open() override;
+    void update() override;
+    void draw(const GRect& area) const override;
+    bool act(Action action) override;
+    bool isOn(Action action) const override;
+    bool key(int32_t key) override;
+    void pointer(PointerAction action, GPoint at) override;
+
+  private:
+    enum Detail : uint8_t { Line, Tool, Time, kDetails };
+
+    void layOutDetails(const GRect& area);
+    void updateText();
+    void follow();
+    void choose(bool choosing);
+    void openChosen();
+    bool scroll(int32_t first);
+    void drawLine(int32_t row, GRect place) const;
+    void drawName(int32_t row, const GRect& place) const;
+
+    Card card_;
+    List text_;
+    int32_t line_ = 0; ///< the one that is shown as running, from 1
+    bool follows_ = true;
+    bool choosing_ = false;
+    List names_;
+    std::vector<std::u16string> programs_;
+    int32_t chosen_ = 0;
+    std::optional<GPoint> drag_; ///< where the pointer took hold
+    int32_t dragFirst_ = 0;
+    AxisCard position_;
+    AxisCard toGo_;
+    Card details_;
+    std::array<Readout, kDetails> values_;
+};
+
+constexpr Word kDetailNames[] = {u"ProgramLine", u"Tool", u"RunTime"};
+
+void ProgramScreen::open() {
+    const Measures& m = measures();
+    GRect area = inside(context_.work, m.margin);
+    GRect right = takeRight(area, 12 * m.width(Face::Number) + 3 * m.padding);
+    takeRight(area, m.margin);
+    const int third = (heightOf(right) - 2 * m.margin) / 3;
+    position_.layOut(takeTop(right, third), m, Face::Number);
+    takeTop(right, m.margin);
+    toGo_.layOut(takeTop(right, third), m, Face::Number);
+    takeTop(right, m.margin);
+    layOutDetails(right);
+
+    card_.rect = area;
+    const int rowHeight = m.height(Face::Text) + m.padding / 2;
+    text_.layOut(card_.content(m), rowHeight);
+    names_.layOut(card_.content(m), rowHeight + m.padding);
+    text_.setCount(context_.program.lines());
+    update();
+}
+
+void ProgramScreen::layOutDetails(const GRect& area) {
+    const Measures& m = measures();
+    details_.rect = area;
+    GRect content = details_.content(m);
+    const int height = heightOf(content) / kDetails;
+    for (Readout& value : values_) {
+        value.rect = takeTop(content, height);
+        takeLeft(value.rect, 5 * m.width(Face::Text));
+        value.look = {Face::Text, Ink::Text, Align::Right};
+    }
+}
+
+void ProgramScreen::update() {
+    const Snapshot& now = context_.now;
+    position_.show(now, now.work, context_.damage);
+    toGo_.show(now, now.toGo, context_.damage);
+    values_[Tool].show(joined({u"T", wholeText(now.tool)}), context_.damage);
+    values_[Line].show(joined({wholeText(now.line), u" / ", wholeText(context_.program.lines())}),
+                       context_.damage);
+    values_[Time].show(spanText(now.runTime), context_.damage);
+    if (!choosing_) {
+        updateText();
+    }
+}
+
+void ProgramScreen::updateText() {
+    if (text_.count() != context_.program.lines()) {
+        text_.setCount(context_.program.lines());
+        follows_ = true;
+        context_.damage.add(card_.rect);
+    }
+    if (line_ != context_.now.line) {
+        for (const int32_t changed : {line_, context_.now.line}) {
+            if (text_.shows(changed - 1)) {
+                context_.damage.add(text_.place(changed - 1));
+            }
+        }
+        line_ = context_.now.line;
+    }
+    if (follows_) {
+        follow();
+    }
+}
+
+/// Turns the page when the line that runs has left it, and has the next lines below it.
+void ProgramScreen::follow() {
+    const int32_t row = std::max(line_ - 1, 0);
+    constexpr int32_t kBefore = 2; // lines that stay in view above it
+    if (!text_.shows(row)) {
+        scroll(row - kBefore);
+    }
+}
+
+bool ProgramScreen::scroll(int32_t first) {
+    const bool moved = text_.scrollTo(first);
+    if (moved) {
+        context_.damage.add(text_.area());
+    }
+    return moved;
+}
+
+bool ProgramScreen::act(Action action) {
+    switch (action) {
+    case Action::OpenProgram:
+        choose(!choosing_);
+        return true;
+    case Action::FollowProgram:
+        choose(false);
+        follows_ = !follows_;
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool ProgramScreen::isOn(Action action) const {
+    return (action == Action::FollowProgram && follows_) ||
+           (action == Action::OpenProgram && choosing_);
+}
+
+void ProgramScreen::choose(bool choosing) {
+    choosing_ = choosing;
+    if (choosing) {
+        programs_ = programNames();
+        names_.setCount(static_cast<int32_t>(programs_.size()));
+        chosen_ = 0;
+    }
+    context_.damage.add(card_.rect);
+}
+
+void ProgramScreen::openChosen() {
+    if (chosen_ < names_.count()) {
+        context_.orders.give(chooseProgram(programs_[static_cast<size_t>(chosen_)]));
+        follows_ = true;
+        choose(false);
+    }
+}
+
+bool ProgramScreen::key(int32_t key) {
+    if (!choosing_) {
+        const auto first = text_.moved(text_.first(), key);
+        if (first) {
+            follows_ = false;
+            scroll(*first);
+        }
+        return first.has_value();
+    }
+    if (key == GPI_KEY_ENTER) {
+        openChosen();
+    } else if (key == GPI_KEY_ESCAPE) {
+        choose(false);
+    } else if (const auto row = names_.moved(chosen_, key)) {
+        chosen_ = *row;
+        names_.reveal(chosen_);
+        context_.damage.add(card_.rect);
+    } else {
+        return false;
+    }
+    return true;
+}
+
+/// The text moves with the pointer; a program is chosen by a tap, and opened by another.
+void ProgramScreen::pointer(PointerAction action, GPoint at) {
+    if (action == PointerAction::Release) {
+        drag_.reset();
+    } else if (action == PointerAction::Press && choosing_) {
+        const auto row = names_.at(at);
+        if (row && *row == chosen_) {
+            openChosen();
+        } else if (row) {
+            chosen_ = *row;
+            context_.damage.add(card_.rect);
+        }
+    } else if (action == PointerAction::Press && contains(text_.area(), at)) {
+        drag_ = at;
+        dragFirst_ = text_.first();
+    } else if (drag_) {
+        const int rowHeight = heightOf(text_.place(0));
+        if (scroll(dragFirst_ + (drag_->y - at.y) / rowHeight)) {
+            follows_ = false;
+        }
+    }
+}
+
+void ProgramScreen::draw(const GRect& area) const {
+    position_.draw(painter(), area, text(u"WorkPosition"));
+    toGo_.draw(painter(), area, text(u"DistanceToGo"));
+    details_.draw(painter(), area, text(u"Program"));
+    for (size_t i = 0; i < kDetails; ++i) {
+        GRect name = values_[i].rect;
+        name.right = static_cast<int16_t>(name.left - 1);
+        name.left = static_cast<int16_t>(details_.rect.left + measures().padding);
+        if (meet(name, area)) {
+            painter().text(name, {Face::Text, Ink::TextFaint, Align::Left}, text(kDetailNames[i]));
+        }
+        values_[i].draw(painter(), area);
+    }
+    card_.draw(painter(), area, text(choosing_ ? u"ChooseProgram" : u"ProgramText"));
+    if (choosing_) {
+        names_.forRows(area, [this](int32_t row, const GRect& place) { drawName(row, place); });
+    } else {
+        text_.forRows(area, [this](int32_t row, const GRect& place) { drawLine(row, place); });
+    }
+}
+
+void ProgramScreen::drawLine(int32_t row, GRect place) const {
+    const Measures& m = measures();
+    const bool runs = row + 1 == line_;
+    if (runs) {
+        painter().fill(place, Ink::AccentSoft);
+        painter().fill(box(place.left, place.top, m.padding / 2, heightOf(place)), Ink::Accent);
+    }
+    GRect number = takeLeft(place, 6 * m.width(Face::Text));
+    takeLeft(place, m.width(Face::Text));
+    painter().text(number, {Face::Text, runs ? Ink::Accent : Ink::TextFaint, Align::Right},
+                   wholeText(row + 1));
+    painter().text(place, {Face::Text, Ink::Text, Align::Left}, context_.program.line(row + 1));
+}
+
+void ProgramScreen::drawName(int32_t row, const GRect& place) const {
+    const bool chosen = row == chosen_;
+    if (chosen) {
+        painter().plate(place, Ink::Accent, Ink::Accent);
+    }
+    GRect name = place;
+    takeLeft(name, 2 * measures().padding);
+    painter().text(name, {Face::Text, chosen ? Ink::AccentText : Ink::Text, Align::Left},
+                   programs_[static_cast<size_t>(row)]);
+}
+
+} // namespace
+
+std::unique_ptr<Screen> makeProgramScreen(Context& context) {
+    return std::make_unique<ProgramScreen>(context);
+}
+
+} // namespace panel
