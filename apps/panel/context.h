@@ -41,6 +41,11 @@ struct Context {
 
     Word message = nullptr; ///< shown in the message line
     bool messageIsFault = false;
+    bool shifted = false; ///< Shift is held
+
+    /// What a screen asks the panel to do next.
+    Action asked = Action::None;
+    void ask(Action action) { asked = action; }
 
     /// Tells the operator something, or nothing; replaces what was told before.
     void tell(Word text, bool fault) {

@@ -66,7 +66,7 @@ int main(int argc, char** argv) {
         return kFailed;
     }
     panel::PanelOptions start;
-    start.language = options->language.value_or(0);
+    start.language = options->language.value_or(panel::keptLanguage());
     start.program = options->program;
     const ExitStatus status = options->script ? runScript(*options, start) : runPanel(start);
     if (status == kFailed) {

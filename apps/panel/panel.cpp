@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace panel {
 namespace {
@@ -71,6 +72,16 @@ void postPointer(PointerAction action, const GMessage& message) {
               static_cast<uint32_t>(message.param2));
 }
 
+constexpr char16_t kProfile[] = u"panel.ini";
+constexpr char16_t kProfileSection[] = u"Panel";
+constexpr char16_t kLanguageKey[] = u"Language";
+
+void keepLanguage(size_t language) {
+    const std::u16string number = wholeText(static_cast<double>(language));
+    GIOSetPrivateProfileString(kProfileSection, kLanguageKey, number.c_str(), G_PROFILE_USER,
+                               kProfile);
+}
+
 /// Turns a message of the platform into an event.
 void postEventOf(const GMessage& message) {
     switch (message.number) {
@@ -102,6 +113,12 @@ void postEventOf(const GMessage& message) {
 }
 
 } // namespace
+
+size_t keptLanguage() {
+    const int32_t kept = GIOGetPrivateProfileIntEx(kProfileSection, kLanguageKey, 0, kProfile);
+    return kept >= 0 && kept < static_cast<int32_t>(kLanguages.size()) ? static_cast<size_t>(kept)
+                                                                       : 0;
+}
 
 Panel::Panel(const PanelOptions& options)
     : options_(options),
@@ -152,6 +169,7 @@ bool Panel::handlePending() {
     while (!quits_ && GEGetEvent(&event, 0) != 0) {
         handle(event);
     }
+    act(std::exchange(context_.asked, Action::None));
     update();
     draw();
     return !quits_;
@@ -191,6 +209,10 @@ void Panel::onTimer(Timer timer) {
 }
 
 void Panel::onKey(int32_t key, uint32_t count) {
+    if (key == GPI_KEY_SHIFT) {
+        context_.shifted = count != 0;
+        return;
+    }
     if (count == 0) {
         release(held_);
         keys_.press(std::nullopt);
@@ -235,7 +257,7 @@ void Panel::act(Action action) {
     const Snapshot& now = context_.now;
     OrderQueue& orders = context_.orders;
     if (action == held_ || screen_->act(action)) {
-        return; // a key that repeats
+        return; // nothing, a key that repeats, or the screen's own
     }
     switch (action) {
     case Action::SwitchKeys:
@@ -306,6 +328,12 @@ void Panel::act(Action action) {
     case Action::ShowDamage:
         context_.showDamage = !context_.showDamage;
         redrawAll();
+        break;
+    case Action::UseEnglish:
+    case Action::UseJapanese:
+    case Action::UseChinese:
+        choose(static_cast<size_t>(action) - static_cast<size_t>(Action::UseEnglish));
+        keepLanguage(context_.texts.language());
         break;
     case Action::Quit:
         GAppExit(0);

@@ -23,6 +23,9 @@ struct PanelOptions {
         nullptr; ///< measures redraws; null where nothing is to be measured
 };
 
+/// The language that the operator chose last, of kLanguages.
+size_t keptLanguage();
+
 /// One at a time; the platform must run.
 class Panel {
   public:

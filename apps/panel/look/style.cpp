@@ -12,6 +12,7 @@ constexpr Measures kLarge{{20, 24, 30, 80, 104}, 10, 10, 5, 66, 34, 70};
 
 constexpr int32_t kFirstEntry = 0; // of the palette
 constexpr int32_t kEntries = 256;
+constexpr uint32_t kSelected = 128; // the entry of an ink and that of the ink selected differ by it
 
 /// In the order of Ink.
 constexpr std::array<uint32_t, kInkCount> kColors{
@@ -40,7 +41,7 @@ constexpr std::array<uint32_t, kInkCount> kColors{
     0xFFFFFF, // SignText
     0xC6D0DA, // Message
     0x2F6FB0, // Cursor
-    0xC4DCF4, // Selection
+    0x271707, // Selection: turns Card into AccentSoft
     0xE020C0, // Damage
     0x101A24, // Void
     0x1E2C3A, // Grid
@@ -60,6 +61,17 @@ constexpr std::array<uint32_t, kInkCount> kColors{
 uint32_t placed(uint32_t channel, uint32_t mask) {
     const int top = std::bit_width(mask) - 8;
     return (top >= 0 ? channel << top : channel >> -top) & mask;
+}
+
+/// A selection is drawn by exclusive-or. On entries of a palette that leads to others, which get
+/// the colours that exclusive-or of the colours themselves would give.
+void setSelectedEntries(GDrawHandle* handle) {
+    std::array<uint32_t, kInkCount> selected = kColors;
+    for (uint32_t& color : selected) {
+        color ^= colorOf(Ink::Selection);
+    }
+    GDSetPalette(handle, static_cast<int32_t>(kSelected), static_cast<int32_t>(selected.size()),
+                 selected.data());
 }
 
 uint32_t distance(uint32_t a, uint32_t b) {
@@ -104,9 +116,11 @@ Palette preparePalette(GDrawHandle* handle) {
     Palette palette{kColors};
     if (display.colorType == G_COLOR_PALETTE) {
         GDSetPalette(handle, kFirstEntry, static_cast<int32_t>(kColors.size()), kColors.data());
+        setSelectedEntries(handle);
         for (uint32_t i = 0; i < kInkCount; ++i) {
             palette.inks[i] = static_cast<uint32_t>(kFirstEntry) + i;
         }
+        palette.inks[static_cast<size_t>(Ink::Selection)] = kSelected;
     } else {
         GDSetColorMode(handle, 1, display.redMask, display.greenMask, display.blueMask);
     }

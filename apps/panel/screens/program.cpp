@@ -22,7 +22,7 @@ class ProgramScreen : public Screen {
   public:
     using Screen::Screen;
 
-    Word title() const override { return u"Program"; }
+    Word title() const override { return u"ProgramScreen"; }
     std::span<const SoftKey> keys() const override { return kKeys; }
     void open() override;
     void update() override;
@@ -229,7 +229,7 @@ void ProgramScreen::pointer(PointerAction action, GPoint at) {
 void ProgramScreen::draw(const GRect& area) const {
     position_.draw(painter(), area, text(u"WorkPosition"));
     toGo_.draw(painter(), area, text(u"DistanceToGo"));
-    details_.draw(painter(), area, text(u"Program"));
+    details_.draw(painter(), area, text(u"Details"));
     for (size_t i = 0; i < kDetails; ++i) {
         GRect name = values_[i].rect;
         name.right = static_cast<int16_t>(name.left - 1);

@@ -12,6 +12,16 @@ std::unique_ptr<Screen> makeScreen(Action action, Context& context) {
         return makeProgramScreen(context);
     case Action::ShowGraphic:
         return makeGraphicScreen(context);
+    case Action::ShowOffsets:
+        return makeOffsetsScreen(context);
+    case Action::ShowManual:
+        return makeManualScreen(context);
+    case Action::ShowAlarms:
+        return makeAlarmsScreen(context);
+    case Action::ShowDiagnosis:
+        return makeDiagnosisScreen(context);
+    case Action::ShowSettings:
+        return makeSettingsScreen(context);
     case Action::ShowHelp:
         return makeHelpScreen(context);
     default:

@@ -1,0 +1,126 @@
+// Settings: the language, and what display and machine are.
+#include "parts/card.h"
+#include "parts/list.h"
+#include "screens/screens.h"
+#include "text/format.h"
+
+namespace panel {
+namespace {
+
+constexpr SoftKey kKeys[] = {
+    {Action::UseEnglish, u"LanguageEnglish", PANEL_ICONS_LANGUAGE},
+    {Action::UseJapanese, u"LanguageJapanese", PANEL_ICONS_LANGUAGE},
+    {Action::UseChinese, u"LanguageChinese", PANEL_ICONS_LANGUAGE},
+    {Action::BlockSkip, u"BlockSkip"},
+    {Action::OptionalStop, u"OptionalStop"},
+    {Action::DryRun, u"DryRun"},
+};
+
+constexpr Action kLanguageActions[] = {Action::UseEnglish, Action::UseJapanese, Action::UseChinese};
+
+class SettingsScreen : public Screen {
+  public:
+    using Screen::Screen;
+
+    Word title() const override { return u"Settings"; }
+    std::span<const SoftKey> keys() const override { return kKeys; }
+    void open() override;
+    void draw(const GRect& area) const override;
+    bool isOn(Action action) const override;
+    bool key(int32_t key) override;
+    void pointer(PointerAction action, GPoint at) override;
+
+  private:
+    void drawLanguage(int32_t row, GRect place) const;
+    void drawFacts(const Card& card, const GRect& area, Word title,
+                   std::initializer_list<std::pair<Word, std::u16string>> facts) const;
+    std::u16string travelOf(Axis axis) const;
+
+    Card languages_;
+    List rows_;
+    Card display_;
+    Card machine_;
+};
+
+void SettingsScreen::open() {
+    const Measures& m = measures();
+    GRect area = inside(context_.work, m.margin);
+    languages_.rect = takeLeft(area, widthOf(area) * 2 / 5);
+    takeLeft(area, m.margin);
+    display_.rect = takeTop(area, heightOf(area) * 2 / 5);
+    takeTop(area, m.margin);
+    machine_.rect = area;
+    rows_.layOut(languages_.content(m), 2 * m.height(Face::Text) + m.padding);
+    rows_.setCount(static_cast<int32_t>(kLanguages.size()));
+}
+
+bool SettingsScreen::isOn(Action action) const {
+    return action == kLanguageActions[context_.texts.language()];
+}
+
+bool SettingsScreen::key(int32_t key) {
+    const auto now = static_cast<int32_t>(context_.texts.language());
+    const auto row = rows_.moved(now, key);
+    if (row) {
+        context_.ask(kLanguageActions[*row]);
+    }
+    return row.has_value();
+}
+
+void SettingsScreen::pointer(PointerAction action, GPoint at) {
+    const auto row = rows_.at(at);
+    if (action == PointerAction::Press && row) {
+        context_.ask(kLanguageActions[*row]);
+    }
+}
+
+void SettingsScreen::draw(const GRect& area) const {
+    languages_.draw(painter(), area, text(u"Language"));
+    rows_.forRows(area, [this](int32_t row, const GRect& place) { drawLanguage(row, place); });
+    const GVram& display = *GDGetVram(painter().handle());
+    drawFacts(display_, area, u"Display",
+              {{u"Size", joined({wholeText(display.width), u" x ", wholeText(display.height)})},
+               {u"Depth", joined({wholeText(display.bitsPerPixel), u" bit"})},
+               {u"Fonts", wholeText(GFGetFontCount())}});
+    drawFacts(machine_, area, u"Machine",
+              {{u"Control", readText(G_NC_CONTROL_NAME, 0)},
+               {u"TravelX", travelOf(kX)},
+               {u"TravelY", travelOf(kY)},
+               {u"TravelZ", travelOf(kZ)}});
+}
+
+std::u16string SettingsScreen::travelOf(Axis axis) const {
+    return joined({wholeText(readValue(G_NC_LIMIT, 0, axis)), u" ... ",
+                   wholeText(readValue(G_NC_LIMIT, 1, axis)), u" mm"});
+}
+
+void SettingsScreen::drawLanguage(int32_t row, GRect place) const {
+    const bool chosen = static_cast<size_t>(row) == context_.texts.language();
+    place = inside(place, measures().padding / 2);
+    painter().plate(place, chosen ? Ink::Accent : Ink::Key, chosen ? Ink::Accent : Ink::KeyEdge);
+    painter().text(place, {Face::Text, chosen ? Ink::AccentText : Ink::Text, Align::Centre},
+                   text(kLanguages[static_cast<size_t>(row)].key));
+}
+
+void SettingsScreen::drawFacts(const Card& card, const GRect& area, Word title,
+                               std::initializer_list<std::pair<Word, std::u16string>> facts) const {
+    card.draw(painter(), area, text(title));
+    GRect content = card.content(measures());
+    const int height = heightOf(content) / static_cast<int>(facts.size());
+    for (const auto& [name, value] : facts) {
+        GRect row = takeTop(content, height);
+        if (meet(row, area)) {
+            const GRect left = takeLeft(row, 11 * measures().width(Face::Text));
+            painter().text(left, {Face::Text, Ink::TextFaint, Align::Left}, text(name));
+            painter().text(row, {Face::Text, Ink::Text, Align::Left}, value);
+        }
+    }
+}
+
+} // namespace
+
+std::unique_ptr<Screen> makeSettingsScreen(Context& context) {
+    return std::make_unique<SettingsScreen>(context);
+}
+
+} // namespace panel
