@@ -1,4 +1,5 @@
 // The operator panel of a milling machine.
+#include "measure.h"
 #include "options.h"
 #include "panel.h"
 #include "script/script.h"
@@ -42,6 +43,20 @@ ExitStatus runScript(const panel::Options& options, panel::PanelOptions start) {
     return kDone;
 }
 
+/// @param begin of the process, in microseconds
+ExitStatus runMeasure(panel::PanelOptions start, uint64_t begin) {
+    GPIHostHoldClock(kScriptTime);
+    start.scripted = true;
+    start.microseconds = microseconds;
+    panel::Panel panel(start);
+    if (!panel.ready()) {
+        return kFailed;
+    }
+    std::cout << "first frame after " << (microseconds() - begin) / 1000 << " ms\n";
+    panel::measure(panel, std::cout);
+    return kDone;
+}
+
 ExitStatus runPanel(panel::PanelOptions start) {
     start.microseconds = microseconds;
     panel::Panel panel(start);
@@ -55,6 +70,7 @@ ExitStatus runPanel(panel::PanelOptions start) {
 } // namespace
 
 int main(int argc, char** argv) {
+    const uint64_t begin = microseconds();
     const auto options = panel::parseOptions(argc, argv);
     if (!options) {
         std::cerr << panel::kUsage;
@@ -68,7 +84,9 @@ int main(int argc, char** argv) {
     panel::PanelOptions start;
     start.language = options->language.value_or(panel::keptLanguage());
     start.program = options->program;
-    const ExitStatus status = options->script ? runScript(*options, start) : runPanel(start);
+    const ExitStatus status = options->script    ? runScript(*options, start)
+                              : options->measure ? runMeasure(start, begin)
+                                                 : runPanel(start);
     if (status == kFailed) {
         std::cerr << "panel: the run failed\n";
     }

@@ -175,6 +175,11 @@ bool Panel::handlePending() {
     return !quits_;
 }
 
+void Panel::redraw() {
+    redrawAll();
+    draw();
+}
+
 void Panel::handle(const GEventMsg& event) {
     context_.counters.add(Counters::Events, 1);
     switch (event.type) {

@@ -44,7 +44,12 @@ class Panel {
     /// @return false when somebody quits
     bool handlePending();
 
+    /// Draws all of the display anew.
+    void redraw();
+
     const Context& context() const { return context_; }
+    /// The screen in view.
+    const Screen& screen() const { return *screen_; }
 
   private:
     enum Timer : uint16_t { MachineTimer, SecondTimer };

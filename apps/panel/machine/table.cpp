@@ -20,7 +20,7 @@ constexpr const char16_t* kMacroHeadings[] = {u"+0", u"+1", u"+2", u"+3"};
 
 std::u16string workLabel(int32_t row) {
     constexpr int32_t kFirstCode = 53;
-    return row == 0 ? u"G5x" : joined({u"G", wholeText(kFirstCode + row)});
+    return row == 0 ? u"EXT" : joined({u"G", wholeText(kFirstCode + row)});
 }
 
 std::optional<Address> workAddress(int32_t row, int32_t column) {

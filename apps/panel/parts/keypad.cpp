@@ -6,24 +6,15 @@ namespace panel {
 namespace {
 
 constexpr KeyCap kNumberCaps[] = {
-    {u"7", '7'},
-    {u"8", '8'},
-    {u"9", '9'},
-    {u"4", '4'},
-    {u"5", '5'},
-    {u"6", '6'},
-    {u"1", '1'},
-    {u"2", '2'},
-    {u"3", '3'},
-    {u"-", GPI_KEY_MINUS},
-    {u"0", '0'},
-    {u".", GPI_KEY_PERIOD},
-    {u"←", GPI_KEY_LEFT},
-    {u"↑", GPI_KEY_UP},
-    {u"→", GPI_KEY_RIGHT},
-    {u"Del", GPI_KEY_BACKSPACE},
-    {u"↓", GPI_KEY_DOWN},
-    {u"Enter", GPI_KEY_ENTER},
+    {u"7", '7'},           {u"8", '8'},
+    {u"9", '9'},           {u"4", '4'},
+    {u"5", '5'},           {u"6", '6'},
+    {u"1", '1'},           {u"2", '2'},
+    {u"3", '3'},           {u"-", GPI_KEY_MINUS},
+    {u"0", '0'},           {u".", GPI_KEY_PERIOD},
+    {u"←", GPI_KEY_LEFT},  {u"↑", GPI_KEY_UP},
+    {u"→", GPI_KEY_RIGHT}, {u"Del", GPI_KEY_BACKSPACE},
+    {u"↓", GPI_KEY_DOWN},  {u"Enter", GPI_KEY_ENTER},
 };
 
 constexpr KeyCap kBlockCaps[] = {

@@ -126,11 +126,12 @@ void ProgramScreen::updateText() {
     }
 }
 
-/// Turns the page when the line that runs has left it, and has the next lines below it.
+/// Turns the page before the line that runs leaves it, so that the next lines are always in view.
 void ProgramScreen::follow() {
+    constexpr int32_t kBefore = 2; // lines above it on the new page
+    constexpr int32_t kAhead = 3;  // lines below it that are always in view
     const int32_t row = std::max(line_ - 1, 0);
-    constexpr int32_t kBefore = 2; // lines that stay in view above it
-    if (!text_.shows(row)) {
+    if (row < text_.first() || row + kAhead >= text_.first() + text_.rows()) {
         scroll(row - kBefore);
     }
 }

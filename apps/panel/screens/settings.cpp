@@ -4,6 +4,8 @@
 #include "screens/screens.h"
 #include "text/format.h"
 
+#include <bit>
+
 namespace panel {
 namespace {
 
@@ -17,6 +19,13 @@ constexpr SoftKey kKeys[] = {
 };
 
 constexpr Action kLanguageActions[] = {Action::UseEnglish, Action::UseJapanese, Action::UseChinese};
+
+/// Bits of red, green and blue in a pixel.
+std::u16string formatOf(const GVram& display) {
+    const auto bits = [](uint32_t mask) { return wholeText(std::popcount(mask)); };
+    return joined(
+        {bits(display.redMask), u"-", bits(display.greenMask), u"-", bits(display.blueMask)});
+}
 
 class SettingsScreen : public Screen {
   public:
@@ -81,7 +90,7 @@ void SettingsScreen::draw(const GRect& area) const {
     drawFacts(display_, area, u"Display",
               {{u"Size", joined({wholeText(display.width), u" x ", wholeText(display.height)})},
                {u"Depth", joined({wholeText(display.bitsPerPixel), u" bit"})},
-               {u"Fonts", wholeText(GFGetFontCount())}});
+               {u"Format", formatOf(display)}});
     drawFacts(machine_, area, u"Machine",
               {{u"Control", readText(G_NC_CONTROL_NAME, 0)},
                {u"TravelX", travelOf(kX)},
@@ -110,7 +119,7 @@ void SettingsScreen::drawFacts(const Card& card, const GRect& area, Word title,
     for (const auto& [name, value] : facts) {
         GRect row = takeTop(content, height);
         if (meet(row, area)) {
-            const GRect left = takeLeft(row, 11 * measures().width(Face::Text));
+            const GRect left = takeLeft(row, 15 * measures().width(Face::Text));
             painter().text(left, {Face::Text, Ink::TextFaint, Align::Left}, text(name));
             painter().text(row, {Face::Text, Ink::Text, Align::Left}, value);
         }
