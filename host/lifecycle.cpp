@@ -18,14 +18,15 @@ GWord startPlatform(GWord configuration) {
             self.heap.setDefaultLimit(static_cast<size_t>(settings.memoryLimit));
             self.files = std::make_unique<FileStore<GFile>>(settings.files);
             self.dataServer = std::make_unique<FileStore<GDataFile>>(settings.dataServer);
-            self.profiles = std::make_unique<Profiles>(settings.profiles, settings.userProfiles);
+            self.codePage = codePageOf(settings.codePage);
+            self.profiles =
+                std::make_unique<Profiles>(settings.profiles, settings.userProfiles, self.codePage);
             self.modules = std::make_unique<ModuleStore>(settings.modules);
             self.programs = std::make_unique<ProgramStore>(settings.programs, settings.files);
             self.network = std::make_unique<Network>(settings);
             self.messages.clear();
             self.input.reset();
             self.wholeStrings = settings.wholeStrings;
-            self.codePage = codePageOf(settings.codePage);
             self.fonts = std::make_unique<FontStore>(settings);
             self.screen = std::make_unique<Screen>(settings, self.input);
             self.controller = nc::makeController(settings);

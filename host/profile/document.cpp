@@ -19,13 +19,14 @@ constexpr Encoding kMarked[] = {
     {"\xEF\xBB\xBF", "UTF-8"}, {"\xFF\xFE", "UTF-16LE"}, {"\xFE\xFF", "UTF-16BE"}};
 constexpr Encoding kPlain = {"", "UTF-8"};
 
-Encoding encodingOf(std::string_view bytes) {
+Encoding encodingOf(std::string_view bytes, const char* codePage) {
     for (const Encoding& encoding : kMarked) {
         if (bytes.starts_with(encoding.mark)) {
             return encoding;
         }
     }
-    return kPlain;
+    const bool isUtf8 = transcode(bytes, kPlain.name, kPlain.name).has_value();
+    return isUtf8 ? kPlain : Encoding{"", codePage};
 }
 
 std::string decoded(std::string_view bytes, const Encoding& encoding) {
@@ -85,8 +86,8 @@ ProfileDocument::ProfileDocument() : content_(std::make_unique<Content>()) {
     content_->ini.SetQuotes(); // a value may begin or end with spaces
 }
 
-ProfileDocument::ProfileDocument(std::string_view bytes) : ProfileDocument() {
-    content_->encoding = encodingOf(bytes);
+ProfileDocument::ProfileDocument(std::string_view bytes, const char* codePage) : ProfileDocument() {
+    content_->encoding = encodingOf(bytes, codePage);
     std::string text = decoded(bytes, content_->encoding);
     content_->crLf = text.find("\r\n") != text.npos;
     replaceAll(text, "\r\n", "\n");
@@ -148,7 +149,10 @@ std::string ProfileDocument::bytes() const {
     }
     const Encoding& encoding = content_->encoding;
     const auto encoded = transcode(text, "UTF-8", encoding.name);
-    return std::string(encoding.mark) + encoded.value();
+    if (!encoded) {
+        throw IoError(G_IO_UNSUPPORTED);
+    }
+    return std::string(encoding.mark) + *encoded;
 }
 
 bool ProfileDocument::isName(std::string_view text) {

@@ -17,10 +17,11 @@ class ProfileDocument {
     /// An empty profile.
     ProfileDocument();
 
-    /// Reads a file's bytes: UTF-8, or UTF-16 with a byte order mark.
+    /// Reads a file's bytes: UTF-16 with a byte order mark, UTF-8, or what is neither.
     ///
+    /// @param codePage what that is then, as iconv knows it; static text
     /// @throws IoError G_IO_DAMAGED for text that is broken
-    explicit ProfileDocument(std::string_view bytes);
+    explicit ProfileDocument(std::string_view bytes, const char* codePage = "UTF-8");
 
     ~ProfileDocument();
     ProfileDocument(ProfileDocument&&) noexcept;
@@ -36,6 +37,8 @@ class ProfileDocument {
     void removeSection(const std::string& section);
 
     /// The file's bytes.
+    ///
+    /// @throws IoError G_IO_UNSUPPORTED for text that the file's encoding cannot say
     std::string bytes() const;
 
     /// Whether a section or key can have this name.

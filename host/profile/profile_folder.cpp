@@ -46,7 +46,7 @@ void writeAll(int file, std::string_view bytes) {
 }
 
 /// The document of a file, and an empty one where there is none.
-ProfileDocument load(const Place& place) {
+ProfileDocument load(const Place& place, const char* codePage) {
     const UniqueFd file = openToRead(place);
     if (!file && errno == ENOENT) {
         return {};
@@ -54,7 +54,7 @@ ProfileDocument load(const Place& place) {
     if (!file) {
         throwSystemError();
     }
-    return ProfileDocument(readAll(file.get()));
+    return ProfileDocument(readAll(file.get()), codePage);
 }
 
 /// Writes a new file beside the old one and has it take the old one's name once it is on the
@@ -80,8 +80,8 @@ void replace(const Place& place, int folder, const std::string& bytes) {
 
 } // namespace
 
-ProfileFolder::ProfileFolder(std::filesystem::path folder)
-    : folder_(std::move(folder)), root_(folder_) {}
+ProfileFolder::ProfileFolder(std::filesystem::path folder, const char* codePage)
+    : folder_(std::move(folder)), codePage_(codePage), root_(folder_) {}
 
 Place ProfileFolder::locate(const char16_t* file) const {
     const std::u16string_view name = pathText(file);
@@ -119,7 +119,8 @@ std::shared_ptr<const ProfileDocument> ProfileFolder::read(const char16_t* file)
     const std::lock_guard lock(mutex_);
     Known& known = known_[place.name];
     if (known.stamp != stamp) {
-        known.document = std::make_shared<const ProfileDocument>(readAll(descriptor.get()));
+        known.document =
+            std::make_shared<const ProfileDocument>(readAll(descriptor.get()), codePage_);
         known.stamp = stamp;
     }
     return known.document;
@@ -134,7 +135,7 @@ void ProfileFolder::change(const char16_t* file,
         throwSystemError();
     }
     lockFile(folder.get(), Sharing::OneWriter, -1); // until the folder is closed
-    ProfileDocument document = load(place);
+    ProfileDocument document = load(place, codePage_);
     action(document);
     replace(place, folder.get(), document.bytes());
 }

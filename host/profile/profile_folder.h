@@ -16,7 +16,8 @@ namespace gpi {
 /// and by several programs at a time.
 class ProfileFolder {
   public:
-    explicit ProfileFolder(std::filesystem::path folder);
+    /// @param codePage of files that are neither UTF-8 nor UTF-16; static text
+    ProfileFolder(std::filesystem::path folder, const char* codePage);
 
     /// @param file name without a folder
     /// @return an empty profile where there is no such file
@@ -48,6 +49,7 @@ class ProfileFolder {
     static Stamp stampOf(int file);
 
     std::filesystem::path folder_;
+    const char* codePage_;
     Root root_;
     std::mutex mutex_;
     std::map<std::string, Known> known_;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "profile/profile_folder.h"
+#include "text/code_page.h"
 
 #include <cstdint>
 #include <optional>
@@ -14,7 +15,9 @@ namespace gpi {
 /// calls throw IoError, also for a layer that there is not.
 class Profiles {
   public:
-    Profiles(const std::string& maker, const std::string& user) : maker_(maker), user_(user) {}
+    /// @param codePage of files that are neither UTF-8 nor UTF-16
+    Profiles(const std::string& maker, const std::string& user, const CodePage& codePage)
+        : maker_(maker, codePage.name), user_(user, codePage.name) {}
 
     std::optional<std::string> value(const std::string& section, const std::string& key,
                                      uint32_t layer, const char16_t* file);

@@ -88,6 +88,23 @@ TEST(ProfileDocument, KeepsEncodingAndLineEnds) {
     }
 }
 
+TEST(ProfileDocument, KeepsItsCodePage) {
+    const std::string text = "[A]\nName = \xE4\xB8\xBB\xE8\xBB\xB8\n";
+    const std::string bytes = *gpi::transcode(text, "UTF-8", "CP932");
+    ProfileDocument document(bytes, "CP932");
+    EXPECT_EQ(document.value("A", "Name"), "\xE4\xB8\xBB\xE8\xBB\xB8");
+    document.set("A", "Unit", "\xE3\x8E\x9C"); // the sign of a millimetre
+    EXPECT_EQ(document.bytes(), bytes + "Unit = \x87\x6F\n");
+    document.set("A", "Unit", "\xE8\xBD\xB4"); // only in Chinese
+    try {
+        document.bytes();
+        FAIL();
+    } catch (const gpi::IoError& error) {
+        EXPECT_EQ(error.number(), G_IO_UNSUPPORTED);
+    }
+    EXPECT_EQ(ProfileDocument(text, "CP932").bytes(), text); // UTF-8 all the same
+}
+
 TEST(ProfileDocument, KeepsSpacesOutWhereThereWereNone) {
     EXPECT_EQ(ProfileDocument("[A]\nx=1\n").bytes(), "[A]\nx=1\n");
 }
