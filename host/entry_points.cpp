@@ -46,6 +46,11 @@ int32_t GPIHostHasWindow(void) {
         0, [] { return gpi::screen() != nullptr && gpi::screen()->display.hasWindow() ? 1 : 0; });
 }
 
+int32_t GPIHostEndFrame(void) {
+    return gpi::guarded(
+        0, [] { return gpi::screen() != nullptr && gpi::screen()->display.endFrame() ? 1 : 0; });
+}
+
 int32_t GPIHostWritePng(const char* path) {
     return gpi::guarded(0, [&] {
         const bool possible = path != nullptr && gpi::screen() != nullptr;

@@ -6,6 +6,7 @@
 #include "input/input.h"
 
 #include <memory>
+#include <span>
 
 namespace gpi {
 
@@ -32,18 +33,19 @@ class BackEnd {
     BackEnd(const BackEnd&) = delete;
     BackEnd& operator=(const BackEnd&) = delete;
 
-    /// Shows an area of the frame that has changed, at once or soon.
-    virtual void show(const Frame& frame, const GRect& area) = 0;
+    /// Shows areas of the frame that have changed, at once or soon, and all of them together.
+    virtual void show(const Frame& frame, std::span<const GRect> areas) = 0;
 
     /// Returns when everything shown before is visible.
     virtual void settle() {}
 
     virtual void setView(const View& view) = 0;
 
-    /// Whether a person sees the picture, and can close what shows it.
+    /// Whether people see the picture.
     virtual bool isWindow() const { return false; }
 
-    /// Blocks until the user closes what shows the picture. False where nobody can.
+    /// Blocks until the user closes what shows the picture, or for ever where nobody can. False
+    /// where nobody sees it.
     virtual bool waitForClose() { return false; }
 
     /// The frame is final. False when the picture could not be kept.

@@ -58,11 +58,35 @@ bool Display::flush(const GRect& area, bool now) {
         return false;
     }
     copyInto(frame_, shown_->pixels(), visible);
-    backEnd_->show(frame_, visible);
+    change(visible);
     if (now) {
+        showChanges();
         backEnd_->settle();
     }
     return true;
+}
+
+bool Display::endFrame() {
+    byFrames_ = true;
+    if (backEnd_ == nullptr) {
+        return false;
+    }
+    showChanges();
+    return true;
+}
+
+void Display::change(const GRect& area) {
+    changes_.add(area);
+    if (!byFrames_) {
+        showChanges();
+    }
+}
+
+void Display::showChanges() {
+    if (!changes_.isEmpty()) {
+        backEnd_->show(frame_, changes_.areas());
+        changes_.clear();
+    }
 }
 
 bool Display::showPage(int32_t number) {
@@ -77,7 +101,7 @@ bool Display::showPage(int32_t number) {
 
 void Display::repaint() {
     if (backEnd_ != nullptr) {
-        backEnd_->show(frame_, shown_->whole());
+        change(shown_->whole());
     }
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "display/back_end.h"
+#include "display/damage.h"
 #include "display/page.h"
 
 #include <array>
@@ -17,7 +18,8 @@ inline constexpr int32_t kPageCount = 4;
 /// A display of one size and format. Used from the thread that draws, as drawing itself is.
 ///
 /// Drawing on a page shows nothing. A flush takes an area of the shown page over into the frame,
-/// and the back end shows the frame.
+/// and the back end shows the frame: flush by flush, until the program marks the end of a frame for
+/// the first time, and from then on by whole frames.
 class Display {
   public:
     Display(const Settings& settings, Input& input);
@@ -42,6 +44,9 @@ class Display {
     /// lies on the display, or nothing is open.
     bool flush(const GRect& area, bool now);
 
+    /// What was flushed is a whole frame. False when nothing is open.
+    bool endFrame();
+
     /// Shows another page. False for a number that is no page.
     bool showPage(int32_t number);
 
@@ -64,6 +69,8 @@ class Display {
     bool waitForClose();
 
   private:
+    void change(const GRect& area);
+    void showChanges();
     bool holdsEntries(int32_t first, size_t count) const;
     void applyView(View view);
 
@@ -75,6 +82,8 @@ class Display {
     std::array<std::unique_ptr<Page>, kPageCount> pages_;
     Page* shown_;
     std::unique_ptr<BackEnd> backEnd_;
+    Damage changes_; ///< what of the frame the back end was not told of yet
+    bool byFrames_ = false;
     bool kept_ = true;
 };
 

@@ -11,7 +11,7 @@ namespace gpi {
 /// Shows the picture nowhere; the frame itself can be written out on demand.
 class MemoryBackEnd : public BackEnd {
   public:
-    void show(const Frame&, const GRect&) override {}
+    void show(const Frame&, std::span<const GRect>) override {}
     void setView(const View&) override {}
     bool finish(const Frame&) override { return true; }
 };

@@ -40,10 +40,12 @@ class SdlBackEnd : public BackEnd {
         return answer.get();
     }
 
-    void show(const Frame& frame, const GRect& area) override {
+    void show(const Frame& frame, std::span<const GRect> areas) override {
         change([&] {
-            convertToRgb(frame, area, rgb_);
-            damage_ = unite(damage_, area);
+            for (const GRect& area : areas) {
+                convertToRgb(frame, area, rgb_);
+                damage_ = unite(damage_, area);
+            }
         });
     }
 

@@ -14,8 +14,12 @@
  * first index 0bRRRGGGBB is the colour it spells.
  *
  * GDFlushScreen() takes the rectangle over from the page that is shown and returns at once; a
- * window shows it within a frame. GDFlushScreenForce() returns when it is visible. Changed palette
- * entries show at once.
+ * window shows it soon. GDFlushScreenForce() returns when it is visible; remote viewers are not
+ * waited for. Changed palette entries show at once.
+ *
+ * Whole frames: a program that calls GPIHostEndFrame() behind the flushes of each picture is shown
+ * whole pictures only, on every kind of display. What it flushes, and the palette entries that it
+ * changes, are seen together, at the mark. GDFlushScreenForce() is a mark too, one that waits.
  *
  * GDSetDrawableRegion() confines drawing on the device surface that the handle targets (page 0
  * where it targets none) to a rectangle, whatever clip rectangles are set later. Regions add up:
@@ -74,9 +78,10 @@
 QUARLO_BEGIN
 
 /**
- * Waits until the user closes the window.
+ * Waits until the user closes the window. On a screen and before remote viewers nobody can, and the
+ * wait ends with the program.
  *
- * @return 1 when it was closed, now or earlier; 0 at once where there is no window to close
+ * @return 1 when it was closed, now or earlier; 0 at once where nobody sees the display
  */
 GPI_API int32_t GPIHostWaitForClose(void);
 
@@ -90,7 +95,16 @@ GPI_API int32_t GPIHostWaitForClose(void);
  */
 GPI_API int32_t GPIHostWritePng(const char* path);
 
-/** Whether a window shows the display. @return 1 or 0 */
+/**
+ * Marks the end of a frame: what was flushed since the last mark becomes visible as one picture,
+ * soon. From the first mark on nothing is shown before it is marked. The mark returns at once; a
+ * display that is behind leaves out whole frames.
+ *
+ * @return 1; 0 when no display is open
+ */
+GPI_API int32_t GPIHostEndFrame(void);
+
+/** Whether people see the display: in a window, remotely or on a screen. @return 1 or 0 */
 GPI_API int32_t GPIHostHasWindow(void);
 
 /**

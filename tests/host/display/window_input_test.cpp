@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <iterator>
 #include <string>
 #include <vector>
@@ -296,9 +297,10 @@ TEST_F(WindowThreadInput, ArrivesWhileTheProgramWaits) {
 }
 
 TEST_F(WindowThreadInput, IsThereWhileTheWindowDraws) {
+    constexpr std::array<GRect, 1> kWhole{GRect{0, 0, 59, 39}};
     for (int round = 0; round < 200; ++round) {
         push(keyEvent(SDL_KEYDOWN, SDL_SCANCODE_A, SDLK_a));
-        backEnd_->show(frame_, GRect{0, 0, 59, 39});
+        backEnd_->show(frame_, kWhole);
         push(keyEvent(SDL_KEYUP, SDL_SCANCODE_A, SDLK_a));
         backEnd_->setView(View{1 + round % 3, 1, 0, 0});
         ASSERT_EQ(next(), "key down 65");

@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <atomic>
 #include <thread>
 
@@ -137,6 +138,9 @@ TEST(NoWindow, GivesAPictureFileUnlessOneWasAskedFor) {
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
 }
 
+constexpr std::array<GRect, 1> kWhole{GRect{0, 0, 5, 3}};
+constexpr std::array<GRect, 1> kPart{GRect{1, 1, 2, 2}};
+
 class WindowThread : public testing::Test {
   protected:
     std::unique_ptr<BackEnd> open() {
@@ -154,7 +158,7 @@ TEST_F(WindowThread, SettlesAfterEveryChange) {
     const auto backEnd = open();
     ASSERT_NE(backEnd, nullptr);
     for (int round = 0; round < 1000; ++round) {
-        backEnd->show(frame_, wholeArea(6, 4));
+        backEnd->show(frame_, kWhole);
         backEnd->setView(View{1 + round % 4, 1, 0, 0});
         backEnd->settle();
     }
@@ -166,7 +170,7 @@ TEST_F(WindowThread, EndsWhateverItWasTold) {
         const auto backEnd = open();
         ASSERT_NE(backEnd, nullptr);
         for (int shows = 0; shows < round * 50; ++shows) {
-            backEnd->show(frame_, GRect{1, 1, 2, 2});
+            backEnd->show(frame_, kPart);
         }
     }
 }
@@ -186,7 +190,7 @@ TEST_F(WindowThread, WaitsForTheUserToCloseIt) {
     EXPECT_TRUE(pushed);
     user.join();
     EXPECT_TRUE(backEnd->waitForClose()); // closed already
-    backEnd->show(frame_, wholeArea(6, 4));
+    backEnd->show(frame_, kWhole);
     backEnd->settle();
 }
 
