@@ -256,8 +256,7 @@ typedef int32_t (*GPIIsLeadByte)(uint8_t byte, int32_t codePage);
 
 /* For tools: the library binds these services and calls none of them. */
 
-/** Service 23, optional: the platform's name and version. @return NUL-terminated, always the same
- */
+/** Service 23, optional: the platform's name and version, always the same. */
 typedef const char16_t* (*GPIDescribe)(void);
 
 /** Service 24, optional: how many device surfaces service 3 hands out, numbered from 0. */
