@@ -11,8 +11,8 @@ constexpr size_t kMostIdle = 4;
 
 } // namespace
 
-Line::Line() : multi_(curl_multi_init()), easy_(curl_easy_init()) {
-    if (multi_ == nullptr || easy_ == nullptr) {
+Line::Line() : multi_(curl_multi_init()) {
+    if (multi_ == nullptr) {
         throw std::bad_alloc();
     }
 }

@@ -10,25 +10,19 @@
 
 namespace gpi {
 
-/// One transfer at a time, and the connections that earlier ones left open.
+/// Room for one transfer, and the connections that earlier ones left open.
 class Line {
   public:
     Line();
 
     CURLM* multi() const { return multi_.get(); }
-    CURL* easy() const { return easy_.get(); }
 
   private:
-    // To the compiler both are void.
-    struct FreeMulti {
+    struct Free {
         void operator()(CURLM* multi) const { curl_multi_cleanup(multi); }
     };
-    struct FreeEasy {
-        void operator()(CURL* easy) const { curl_easy_cleanup(easy); }
-    };
 
-    std::unique_ptr<CURLM, FreeMulti> multi_;
-    std::unique_ptr<CURL, FreeEasy> easy_; // goes first
+    std::unique_ptr<CURLM, Free> multi_;
 };
 
 /// Lends lines out, from any thread.

@@ -16,9 +16,12 @@ constexpr std::chrono::milliseconds kLongestWait{1000};
 
 Transfer::Transfer(LinePool::Lease line, const Options& options)
     : line_(std::move(line)),
+      easy_(curl_easy_init()),
       connectTimeout_(options.connectTimeout),
       idleTimeout_(options.idleTimeout) {
-    curl_easy_reset(line_->easy());
+    if (easy_ == nullptr) {
+        throw std::bad_alloc();
+    }
     apply(options);
     set(CURLOPT_HEADERFUNCTION, &Transfer::lineCame);
     set(CURLOPT_HEADERDATA, this);
@@ -32,7 +35,7 @@ Transfer::Transfer(LinePool::Lease line, const Options& options)
 
 Transfer::~Transfer() {
     if (started_) {
-        curl_multi_remove_handle(line_->multi(), line_->easy());
+        curl_multi_remove_handle(line_->multi(), easy_.get());
     }
 }
 
@@ -143,7 +146,7 @@ void Transfer::requireGood() const {
 
 void Transfer::run() {
     if (!started_) {
-        started_ = curl_multi_add_handle(line_->multi(), line_->easy()) == CURLM_OK;
+        started_ = curl_multi_add_handle(line_->multi(), easy_.get()) == CURLM_OK;
         require(started_, G_NET_NO_MEMORY);
     }
     int running = 0;
@@ -185,7 +188,7 @@ void Transfer::runUntil(Condition reached) {
 
 void Transfer::resume() {
     if (std::exchange(paused_, false)) {
-        curl_easy_pause(line_->easy(), CURLPAUSE_CONT);
+        curl_easy_pause(easy_.get(), CURLPAUSE_CONT);
     }
 }
 

@@ -8,6 +8,7 @@
 
 #include <chrono>
 #include <functional>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -24,7 +25,7 @@ class Transfer : public Source {
 
     template <typename Value>
     void set(CURLoption option, Value value) {
-        require(curl_easy_setopt(line_->easy(), option, value));
+        require(curl_easy_setopt(easy_.get(), option, value));
     }
 
     /// The same for a list of texts, such as CURLOPT_HTTPHEADER.
@@ -33,7 +34,7 @@ class Transfer : public Source {
     template <typename Value>
     Value info(CURLINFO what) const {
         Value value{};
-        curl_easy_getinfo(line_->easy(), what, &value);
+        curl_easy_getinfo(easy_.get(), what, &value);
         return value;
     }
 
@@ -66,6 +67,9 @@ class Transfer : public Source {
     struct FreeList {
         void operator()(curl_slist* list) const { curl_slist_free_all(list); }
     };
+    struct FreeEasy {
+        void operator()(CURL* easy) const { curl_easy_cleanup(easy); }
+    };
     using Clock = std::chrono::steady_clock;
 
     static size_t lineCame(char* bytes, size_t size, size_t count, void* self);
@@ -84,6 +88,8 @@ class Transfer : public Source {
 
     LinePool::Lease line_;
     std::vector<std::unique_ptr<curl_slist, FreeList>> lists_;
+    // A new one for each transfer: libcurl 7.88 leaks the lists of a handle that was used before.
+    std::unique_ptr<CURL, FreeEasy> easy_;
     Listener listener_;
     std::chrono::milliseconds connectTimeout_;
     std::chrono::milliseconds idleTimeout_;
