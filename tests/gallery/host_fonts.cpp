@@ -7,7 +7,7 @@
 namespace quarlo::test {
 
 HostFonts::HostFonts(RecordingPlatform& platform)
-    : library_(dlopen(GALLERY_PLATFORM, RTLD_NOW | RTLD_LOCAL)) {
+    : library_(dlopen(GALLERY_PLATFORM, RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE)) {
     if (library_ == nullptr) {
         ADD_FAILURE() << dlerror();
         return;
