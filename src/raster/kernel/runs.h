@@ -80,7 +80,7 @@ class RunPainter {
         cursor_ = to + length;
         if (fills) {
             unit_ = units;
-            fillRun<Mode>(to, length, Solid<Format>(loadPixel<Format>(units)).row());
+            fillRows<Mode>(to, 0, length, 1, Solid<Format>(loadPixel<Format>(units)).row());
         } else {
             unit_ = units + (count - 1) * ptrdiff_t{Format::kBytes};
             copyRow<Mode>(to, units, length);
