@@ -61,12 +61,6 @@ void Painter::plate(const GRect& rect, Ink ground, Ink edge) const {
     GDDrawRRect(handle_, &rect, measures_->radius, measures_->radius);
 }
 
-void Painter::line(int x1, int y1, int x2, int y2, Ink ink) const {
-    GDSetPenColor(handle_, color(ink));
-    GDMoveTo(handle_, static_cast<int16_t>(x1), static_cast<int16_t>(y1));
-    GDLineTo(handle_, static_cast<int16_t>(x2), static_cast<int16_t>(y2));
-}
-
 void Painter::text(const GRect& rect, const TextLook& look, const std::u16string& text) const {
     if (text.empty()) {
         return;
@@ -79,11 +73,6 @@ void Painter::text(const GRect& rect, const TextLook& look, const std::u16string
 
 void Painter::select(Face face) const {
     GDSetFont(handle_, fonts_[static_cast<size_t>(face)]);
-}
-
-int16_t Painter::widthOf(Face face, const std::u16string& text) const {
-    select(face);
-    return GDGetStringWidth(handle_, text.c_str());
 }
 
 } // namespace panel

@@ -42,13 +42,11 @@ class Painter {
     void frame(const GRect& rect, Ink ink) const;
     /// With round corners, filled and outlined.
     void plate(const GRect& rect, Ink ground, Ink edge) const;
-    void line(int x1, int y1, int x2, int y2, Ink ink) const;
     /// A text in the middle of a rectangle's height, cut off at its edges. It may have lines.
     void text(const GRect& rect, const TextLook& look, const std::u16string& text) const;
 
     /// Makes a font the handle's, for calls that draw with it.
     void select(Face face) const;
-    int16_t widthOf(Face face, const std::u16string& text) const;
 
   private:
     GDrawHandle* handle_ = nullptr;

@@ -59,7 +59,7 @@ constexpr std::array<uint32_t, kInkCount> kColors{
 
 /// What a channel of 8 bits becomes where a mask lies.
 uint32_t placed(uint32_t channel, uint32_t mask) {
-    const int top = std::bit_width(mask) - 8;
+    const int top = static_cast<int>(std::bit_width(mask)) - 8;
     return (top >= 0 ? channel << top : channel >> -top) & mask;
 }
 

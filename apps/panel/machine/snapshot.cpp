@@ -34,7 +34,6 @@ int32_t readCount(int32_t area, int32_t number) {
 
 void readState(Snapshot& now) {
     readSystem(G_NC_SYSTEM_STATE, now.state);
-    readSystem(G_NC_SYSTEM_COOLANT, now.coolant);
     readSystem(G_NC_SYSTEM_ALARMS, now.alarms);
     readSystem(G_NC_SYSTEM_LINES, now.lines);
     readSwitch(G_NC_SYSTEM_EMERGENCY, now.emergency);

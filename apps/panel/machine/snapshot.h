@@ -36,7 +36,6 @@ struct Snapshot {
     bool optionalStop = false;
     bool dryRun = false;
     bool inches = false; ///< unit of programs
-    int32_t coolant = 0; ///< bit 0 flood, bit 1 mist
 
     Place machine{}; ///< position from the machine's own zero
     Place work{};    ///< position from the work zero in force

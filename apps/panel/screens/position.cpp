@@ -1,5 +1,6 @@
 // The position: large where the tool is in the work, smaller whatever else one looks for beside it.
 #include "parts/axis_card.h"
+#include "parts/value_card.h"
 #include "screens/screens.h"
 
 #include <string_view>
@@ -19,6 +20,9 @@ constexpr SoftKey kKeys[] = {
     {Action::ZeroRelative, u"ZeroRelative", PANEL_ICONS_OFFSETS},
 };
 
+constexpr Word kSideTitles[] = {u"Relative", u"DistanceToGo", u"MachinePosition"};
+constexpr Word kDetailNames[] = {u"Feed", u"Spindle", u"Modal", u"Jog", u"RunTime"};
+
 class PositionScreen : public Screen {
   public:
     using Screen::Screen;
@@ -35,25 +39,21 @@ class PositionScreen : public Screen {
     enum Detail : uint8_t { Feed, Spindle, Modal, Jog, Time, kDetails };
 
     void layOutSides(GRect area);
-    void layOutDetails(const GRect& area);
     void showDetails();
 
     AxisCard work_;
     std::array<AxisCard, kSides> sides_;
-    Card details_;
-    std::array<Readout, kDetails> values_;
+    ValueCard details_{kDetailNames};
 };
-
-constexpr Word kSideTitles[] = {u"Relative", u"DistanceToGo", u"MachinePosition"};
-constexpr Word kDetailNames[] = {u"Feed", u"Spindle", u"Modal", u"Jog", u"RunTime"};
 
 void PositionScreen::open() {
     const Measures& m = measures();
     GRect area = inside(context_.work, m.margin);
     layOutSides(takeRight(area, 14 * m.width(Face::Number) + 2 * m.padding));
     takeRight(area, m.margin);
-    layOutDetails(takeBottom(area, kDetails * (m.height(Face::Text) + m.padding) +
-                                       m.height(Face::Label) + 2 * m.padding));
+    const GRect lower = takeBottom(area, kDetails * (m.height(Face::Text) + m.padding) +
+                                             m.height(Face::Label) + 2 * m.padding);
+    details_.layOut(lower, m, 9, Align::Left);
     takeBottom(area, m.margin);
     work_.layOut(area, m, Face::Large);
     update();
@@ -65,19 +65,6 @@ void PositionScreen::layOutSides(GRect area) {
     for (AxisCard& side : sides_) {
         side.layOut(takeTop(area, height), m, Face::Number);
         takeTop(area, m.margin);
-    }
-}
-
-void PositionScreen::layOutDetails(const GRect& area) {
-    const Measures& m = measures();
-    details_.rect = area;
-    GRect content = details_.content(m);
-    const int height = heightOf(content) / kDetails;
-    for (Readout& value : values_) {
-        value.rect = takeTop(content, height);
-        takeLeft(value.rect, 9 * m.width(Face::Text));
-        takeRight(value.rect, m.padding);
-        value.look = {Face::Text, Ink::Text, Align::Left};
     }
 }
 
@@ -99,25 +86,27 @@ void PositionScreen::showDetails() {
     const double unit = now.inches ? 25.4 : 1.0;
     const int decimals = now.inches ? 1 : 0;
     Damage& damage = context_.damage;
-    values_[Feed].show(
+    details_.show(
+        Feed,
         joined({fixed(now.feed / unit, decimals), u" / ",
                 fixed(now.programmedFeed / unit, decimals),
                 now.inches ? u" inch/min  " : u" mm/min  ", wholeText(now.overrides[0]), u" %"}),
         damage);
-    values_[Spindle].show(joined({wholeText(now.spindle), u" / ", wholeText(now.programmedSpindle),
-                                  u" /min  ", wholeText(now.overrides[2]), u" %"}),
-                          damage);
+    details_.show(Spindle,
+                  joined({wholeText(now.spindle), u" / ", wholeText(now.programmedSpindle),
+                          u" /min  ", wholeText(now.overrides[2]), u" %"}),
+                  damage);
     std::u16string codes;
     for (const double code : now.codes) {
         codes += joined({codes.empty() ? u"G" : u" G", shortest(code)});
     }
-    values_[Modal].show(codes, damage);
+    details_.show(Modal, codes, damage);
     const double step = kJogSteps[context_.jogStep];
-    values_[Jog].show(
-        joined({std::u16string_view(&kAxisNames[context_.axis], 1), u"  ",
-                step == 0.0 ? text(u"Continuous") : joined({shortest(step), u" mm"})}),
-        damage);
-    values_[Time].show(spanText(now.runTime), damage);
+    details_.show(Jog,
+                  joined({std::u16string_view(&kAxisNames[context_.axis], 1), u"  ",
+                          step == 0.0 ? text(u"Continuous") : joined({shortest(step), u" mm"})}),
+                  damage);
+    details_.show(Time, spanText(now.runTime), damage);
 }
 
 bool PositionScreen::act(Action action) {
@@ -133,16 +122,7 @@ void PositionScreen::draw(const GRect& area) const {
     for (size_t i = 0; i < kSides; ++i) {
         sides_[i].draw(painter(), area, text(kSideTitles[i]));
     }
-    details_.draw(painter(), area, text(u"Details"));
-    for (size_t i = 0; i < kDetails; ++i) {
-        GRect name = values_[i].rect;
-        name.right = static_cast<int16_t>(name.left - 1);
-        name.left = static_cast<int16_t>(details_.rect.left + measures().padding);
-        if (meet(name, area)) {
-            painter().text(name, {Face::Text, Ink::TextFaint, Align::Left}, text(kDetailNames[i]));
-        }
-        values_[i].draw(painter(), area);
-    }
+    details_.draw(painter(), context_.texts, area, u"Details");
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 // The program: its text with the line that runs, or the list of programs to choose from.
 #include "parts/axis_card.h"
 #include "parts/list.h"
+#include "parts/value_card.h"
 #include "screens/screens.h"
 
 namespace panel {
@@ -17,6 +18,8 @@ constexpr SoftKey kKeys[] = {
     {Action::OptionalStop, u"OptionalStop"},
     {Action::DryRun, u"DryRun"},
 };
+
+constexpr Word kDetailNames[] = {u"ProgramLine", u"Tool", u"RunTime"};
 
 class ProgramScreen : public Screen {
   public:
@@ -35,7 +38,6 @@ class ProgramScreen : public Screen {
   private:
     enum Detail : uint8_t { Line, Tool, Time, kDetails };
 
-    void layOutDetails(const GRect& area);
     void updateText();
     void follow();
     void choose(bool choosing);
@@ -56,11 +58,8 @@ class ProgramScreen : public Screen {
     int32_t dragFirst_ = 0;
     AxisCard position_;
     AxisCard toGo_;
-    Card details_;
-    std::array<Readout, kDetails> values_;
+    ValueCard details_{kDetailNames};
 };
-
-constexpr Word kDetailNames[] = {u"ProgramLine", u"Tool", u"RunTime"};
 
 void ProgramScreen::open() {
     const Measures& m = measures();
@@ -72,7 +71,7 @@ void ProgramScreen::open() {
     takeTop(right, m.margin);
     toGo_.layOut(takeTop(right, third), m, Face::Number);
     takeTop(right, m.margin);
-    layOutDetails(right);
+    details_.layOut(right, m, 5, Align::Right);
 
     card_.rect = area;
     const int rowHeight = m.height(Face::Text) + m.padding / 2;
@@ -82,26 +81,14 @@ void ProgramScreen::open() {
     update();
 }
 
-void ProgramScreen::layOutDetails(const GRect& area) {
-    const Measures& m = measures();
-    details_.rect = area;
-    GRect content = details_.content(m);
-    const int height = heightOf(content) / kDetails;
-    for (Readout& value : values_) {
-        value.rect = takeTop(content, height);
-        takeLeft(value.rect, 5 * m.width(Face::Text));
-        value.look = {Face::Text, Ink::Text, Align::Right};
-    }
-}
-
 void ProgramScreen::update() {
     const Snapshot& now = context_.now;
     position_.show(now, now.work, context_.damage);
     toGo_.show(now, now.toGo, context_.damage);
-    values_[Tool].show(joined({u"T", wholeText(now.tool)}), context_.damage);
-    values_[Line].show(joined({wholeText(now.line), u" / ", wholeText(context_.program.lines())}),
-                       context_.damage);
-    values_[Time].show(spanText(now.runTime), context_.damage);
+    details_.show(Tool, joined({u"T", wholeText(now.tool)}), context_.damage);
+    details_.show(Line, joined({wholeText(now.line), u" / ", wholeText(context_.program.lines())}),
+                  context_.damage);
+    details_.show(Time, spanText(now.runTime), context_.damage);
     if (!choosing_) {
         updateText();
     }
@@ -230,16 +217,7 @@ void ProgramScreen::pointer(PointerAction action, GPoint at) {
 void ProgramScreen::draw(const GRect& area) const {
     position_.draw(painter(), area, text(u"WorkPosition"));
     toGo_.draw(painter(), area, text(u"DistanceToGo"));
-    details_.draw(painter(), area, text(u"Details"));
-    for (size_t i = 0; i < kDetails; ++i) {
-        GRect name = values_[i].rect;
-        name.right = static_cast<int16_t>(name.left - 1);
-        name.left = static_cast<int16_t>(details_.rect.left + measures().padding);
-        if (meet(name, area)) {
-            painter().text(name, {Face::Text, Ink::TextFaint, Align::Left}, text(kDetailNames[i]));
-        }
-        values_[i].draw(painter(), area);
-    }
+    details_.draw(painter(), context_.texts, area, u"Details");
     card_.draw(painter(), area, text(choosing_ ? u"ChooseProgram" : u"ProgramText"));
     if (choosing_) {
         names_.forRows(area, [this](int32_t row, const GRect& place) { drawName(row, place); });

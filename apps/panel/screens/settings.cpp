@@ -1,6 +1,6 @@
 // Settings: the language, and what display and machine are.
-#include "parts/card.h"
 #include "parts/list.h"
+#include "parts/value_card.h"
 #include "screens/screens.h"
 #include "text/format.h"
 
@@ -17,6 +17,10 @@ constexpr SoftKey kKeys[] = {
     {Action::OptionalStop, u"OptionalStop"},
     {Action::DryRun, u"DryRun"},
 };
+
+constexpr Word kDisplayNames[] = {u"Size", u"Depth", u"Format"};
+constexpr Word kMachineNames[] = {u"Control", u"TravelX", u"TravelY", u"TravelZ"};
+constexpr int kNameCells = 15;
 
 constexpr Action kLanguageActions[] = {Action::UseEnglish, Action::UseJapanese, Action::UseChinese};
 
@@ -41,14 +45,13 @@ class SettingsScreen : public Screen {
 
   private:
     void drawLanguage(int32_t row, GRect place) const;
-    void drawFacts(const Card& card, const GRect& area, Word title,
-                   std::initializer_list<std::pair<Word, std::u16string>> facts) const;
+    void showFacts();
     std::u16string travelOf(Axis axis) const;
 
     Card languages_;
     List rows_;
-    Card display_;
-    Card machine_;
+    ValueCard display_{kDisplayNames};
+    ValueCard machine_{kMachineNames};
 };
 
 void SettingsScreen::open() {
@@ -56,11 +59,24 @@ void SettingsScreen::open() {
     GRect area = inside(context_.work, m.margin);
     languages_.rect = takeLeft(area, widthOf(area) * 2 / 5);
     takeLeft(area, m.margin);
-    display_.rect = takeTop(area, heightOf(area) * 2 / 5);
+    display_.layOut(takeTop(area, heightOf(area) * 2 / 5), m, kNameCells, Align::Left);
     takeTop(area, m.margin);
-    machine_.rect = area;
+    machine_.layOut(area, m, kNameCells, Align::Left);
     rows_.layOut(languages_.content(m), 2 * m.height(Face::Text) + m.padding);
     rows_.setCount(static_cast<int32_t>(kLanguages.size()));
+    showFacts();
+}
+
+void SettingsScreen::showFacts() {
+    const GVram& display = *GDGetVram(painter().handle());
+    Damage& damage = context_.damage;
+    display_.show(0, joined({wholeText(display.width), u" x ", wholeText(display.height)}), damage);
+    display_.show(1, joined({wholeText(display.bitsPerPixel), u" bit"}), damage);
+    display_.show(2, formatOf(display), damage);
+    machine_.show(0, readText(G_NC_CONTROL_NAME, 0), damage);
+    for (const Axis axis : {kX, kY, kZ}) {
+        machine_.show(size_t{axis} + 1, travelOf(axis), damage);
+    }
 }
 
 bool SettingsScreen::isOn(Action action) const {
@@ -86,16 +102,8 @@ void SettingsScreen::pointer(PointerAction action, GPoint at) {
 void SettingsScreen::draw(const GRect& area) const {
     languages_.draw(painter(), area, text(u"Language"));
     rows_.forRows(area, [this](int32_t row, const GRect& place) { drawLanguage(row, place); });
-    const GVram& display = *GDGetVram(painter().handle());
-    drawFacts(display_, area, u"Display",
-              {{u"Size", joined({wholeText(display.width), u" x ", wholeText(display.height)})},
-               {u"Depth", joined({wholeText(display.bitsPerPixel), u" bit"})},
-               {u"Format", formatOf(display)}});
-    drawFacts(machine_, area, u"Machine",
-              {{u"Control", readText(G_NC_CONTROL_NAME, 0)},
-               {u"TravelX", travelOf(kX)},
-               {u"TravelY", travelOf(kY)},
-               {u"TravelZ", travelOf(kZ)}});
+    display_.draw(painter(), context_.texts, area, u"Display");
+    machine_.draw(painter(), context_.texts, area, u"Machine");
 }
 
 std::u16string SettingsScreen::travelOf(Axis axis) const {
@@ -109,21 +117,6 @@ void SettingsScreen::drawLanguage(int32_t row, GRect place) const {
     painter().plate(place, chosen ? Ink::Accent : Ink::Key, chosen ? Ink::Accent : Ink::KeyEdge);
     painter().text(place, {Face::Text, chosen ? Ink::AccentText : Ink::Text, Align::Centre},
                    text(kLanguages[static_cast<size_t>(row)].key));
-}
-
-void SettingsScreen::drawFacts(const Card& card, const GRect& area, Word title,
-                               std::initializer_list<std::pair<Word, std::u16string>> facts) const {
-    card.draw(painter(), area, text(title));
-    GRect content = card.content(measures());
-    const int height = heightOf(content) / static_cast<int>(facts.size());
-    for (const auto& [name, value] : facts) {
-        GRect row = takeTop(content, height);
-        if (meet(row, area)) {
-            const GRect left = takeLeft(row, 15 * measures().width(Face::Text));
-            painter().text(left, {Face::Text, Ink::TextFaint, Align::Left}, text(name));
-            painter().text(row, {Face::Text, Ink::Text, Align::Left}, value);
-        }
-    }
 }
 
 } // namespace
