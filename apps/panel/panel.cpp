@@ -485,6 +485,7 @@ void Panel::draw() {
     }
     const uint64_t start = microseconds();
     context_.damage.take([this](const GRect& area) { drawArea(area); });
+    GPIHostEndFrame(); // people see all of it at once
     Counters& counters = context_.counters;
     const auto took = static_cast<int32_t>(microseconds() - start);
     counters.set(Counters::LastMicros, took);
