@@ -33,9 +33,6 @@ ExitStatus runScript(const panel::Options& options, panel::PanelOptions start) {
     GPIHostHoldClock(kScriptTime);
     start.scripted = true;
     panel::Panel panel(start);
-    if (!panel.ready()) {
-        return kFailed;
-    }
     if (const auto wrong = panel::Script(panel, options.shots).run(lines)) {
         std::cerr << "panel: " << *options.script << ": " << *wrong << '\n';
         return kFailed;
@@ -49,9 +46,6 @@ ExitStatus runMeasure(panel::PanelOptions start, uint64_t begin) {
     start.scripted = true;
     start.microseconds = microseconds;
     panel::Panel panel(start);
-    if (!panel.ready()) {
-        return kFailed;
-    }
     std::cout << "first frame after " << (microseconds() - begin) / 1000 << " ms\n";
     panel::measure(panel, std::cout);
     return kDone;
@@ -60,9 +54,6 @@ ExitStatus runMeasure(panel::PanelOptions start, uint64_t begin) {
 ExitStatus runPanel(panel::PanelOptions start) {
     start.microseconds = microseconds;
     panel::Panel panel(start);
-    if (!panel.ready()) {
-        return kFailed;
-    }
     panel.run();
     return kDone;
 }
@@ -84,11 +75,13 @@ int main(int argc, char** argv) {
     panel::PanelOptions start;
     start.language = options->language.value_or(panel::keptLanguage());
     start.program = options->program;
+    if (!panel::canPaint()) {
+        std::cerr << "panel: there is no display, or no font\n";
+        GDQuitPlatform();
+        return kFailed;
+    }
     const ExitStatus status = options->script    ? runScript(*options, start)
                               : options->measure ? runMeasure(start, begin)
                                                  : runPanel(start);
-    if (status == kFailed) {
-        std::cerr << "panel: the run failed\n";
-    }
     return GDQuitPlatform() != 0 ? status : kFailed;
 }

@@ -26,16 +26,13 @@ struct PanelOptions {
 /// The language that the operator chose last, of kLanguages.
 size_t keptLanguage();
 
-/// One at a time; the platform must run.
+/// One at a time; the platform must run, and canPaint().
 class Panel {
   public:
     explicit Panel(const PanelOptions& options);
     ~Panel();
     Panel(const Panel&) = delete;
     Panel& operator=(const Panel&) = delete;
-
-    /// Whether there is a display, and a font. Nothing else works without.
-    bool ready() const { return context_.painter.ready(); }
 
     /// Runs until somebody quits.
     void run();

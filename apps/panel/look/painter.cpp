@@ -13,21 +13,36 @@ uint8_t glyphBits(const GVram& display) {
     return display.colorType == G_COLOR_PALETTE ? 1 : 4;
 }
 
-} // namespace
-
-Painter::Painter() : handle_(GDOpenDrawHandle(0, 0)) {
-    if (handle_ == nullptr) {
-        return;
-    }
-    const GVram& display = *GDGetVram(handle_);
-    measures_ = &measuresFor(display.width, display.height);
-    palette_ = preparePalette(handle_);
-    GDSetTextMode(handle_, G_TEXT_TRANSPARENT);
+/// @param height of a cell
+GSimpleFont descriptor(const GVram& display, int height) {
     GSimpleFont font{};
     std::copy(std::begin(kFaceName), std::end(kFaceName), font.face);
+    font.size = static_cast<uint8_t>(height);
     font.bitsPerPixel = glyphBits(display);
+    return font;
+}
+
+} // namespace
+
+bool canPaint() {
+    GDrawHandle* const handle = GDOpenDrawHandle(0, 0);
+    if (handle == nullptr) {
+        return false;
+    }
+    const GSimpleFont font = descriptor(*GDGetVram(handle), 16);
+    GFontRecord* const found = GDSetSimpleFont(handle, &font);
+    GDCloseDrawHandle(handle);
+    GFReleaseFont(found);
+    return found != nullptr;
+}
+
+Painter::Painter()
+    : handle_(GDOpenDrawHandle(0, 0)),
+      measures_(&measuresFor(widthOf(handle_->view), heightOf(handle_->view))),
+      palette_(preparePalette(handle_)) {
+    GDSetTextMode(handle_, G_TEXT_TRANSPARENT);
     for (size_t i = 0; i < kFaceCount; ++i) {
-        font.size = static_cast<uint8_t>(measures_->faces[i]);
+        const GSimpleFont font = descriptor(*GDGetVram(handle_), measures_->faces[i]);
         fonts_[i] = GDSetSimpleFont(handle_, &font);
     }
 }
@@ -37,10 +52,6 @@ Painter::~Painter() {
     for (GFontRecord* const font : fonts_) {
         GFReleaseFont(font);
     }
-}
-
-bool Painter::ready() const {
-    return handle_ != nullptr && std::find(fonts_.begin(), fonts_.end(), nullptr) == fonts_.end();
 }
 
 void Painter::fill(const GRect& rect, Ink ink) const {

@@ -17,17 +17,17 @@ struct TextLook {
     Align align = Align::Left;
 };
 
+/// Whether there is a display, and the panel's face. Nothing else here works without.
+bool canPaint();
+
 /// The display with colours and fonts. What is drawn is seen when it is flushed, not before.
 class Painter {
   public:
-    /// Opens the display. The platform must run.
+    /// Opens the display. The platform must run, and canPaint().
     Painter();
     ~Painter();
     Painter(const Painter&) = delete;
     Painter& operator=(const Painter&) = delete;
-
-    /// Whether there is a display, and a font.
-    bool ready() const;
 
     GDrawHandle* handle() const { return handle_; }
     const Measures& measures() const { return *measures_; }
@@ -49,9 +49,9 @@ class Painter {
     void select(Face face) const;
 
   private:
-    GDrawHandle* handle_ = nullptr;
-    const Measures* measures_ = nullptr;
-    Palette palette_{};
+    GDrawHandle* handle_;
+    const Measures* measures_;
+    Palette palette_;
     std::array<GFontRecord*, kFaceCount> fonts_{};
 };
 
