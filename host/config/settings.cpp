@@ -90,10 +90,12 @@ class Reader {
 Settings readSettings(const SettingSource& source) {
     Settings settings;
     Reader reader(source);
-    reader.choice<DisplayKind>(
-        "QUARLO_DISPLAY",
-        {{"sdl", DisplayKind::Sdl}, {"memory", DisplayKind::Memory}, {"png", DisplayKind::Png}},
-        settings.display);
+    reader.choice<DisplayKind>("QUARLO_DISPLAY",
+                               {{"sdl", DisplayKind::Sdl},
+                                {"memory", DisplayKind::Memory},
+                                {"png", DisplayKind::Png},
+                                {"vnc", DisplayKind::Vnc}},
+                               settings.display);
     reader.number("QUARLO_WIDTH", 1, 2560, settings.width);
     reader.number("QUARLO_HEIGHT", 1, 2560, settings.height);
     reader.choice<PixelFormat>(
@@ -103,6 +105,11 @@ Settings readSettings(const SettingSource& source) {
     reader.number("QUARLO_SCALE", 1, 8, settings.scale);
     reader.text("QUARLO_TITLE", settings.title);
     reader.text("QUARLO_PNG", settings.png);
+    reader.text("QUARLO_VNC_ADDRESS", settings.vncAddress);
+    reader.number("QUARLO_VNC_PORT", 0, 65535, settings.vncPort);
+    reader.text("QUARLO_VNC_PASSWORD", settings.vncPassword);
+    reader.choice<bool>("QUARLO_VNC_VIEW_ONLY", {{"yes", true}, {"no", false}},
+                        settings.vncViewOnly);
     reader.text("QUARLO_FILES", settings.files);
     reader.text("QUARLO_DATA_SERVER", settings.dataServer);
     reader.text("QUARLO_PROGRAMS", settings.programs);

@@ -16,7 +16,8 @@ enum class DisplayKind {
     Automatic, ///< a window where a display server answers, else a picture file
     Sdl,       ///< a window
     Memory,    ///< nowhere
-    Png        ///< a picture file, written at the end
+    Png,       ///< a picture file, written at the end
+    Vnc        ///< wherever viewers are
 };
 
 /// Which control the numerical-control data come from.
@@ -30,13 +31,18 @@ enum class ControlKind {
 inline constexpr const char* kWholeStringsSetting = "QUARLO_WHOLE_STRINGS";
 
 struct Settings {
-    DisplayKind display = DisplayKind::Automatic; ///< QUARLO_DISPLAY: sdl, memory, png
-    int width = 800;                              ///< QUARLO_WIDTH: pixels, 1 to 2560
-    int height = 600;                             ///< QUARLO_HEIGHT: pixels, 1 to 2560
-    PixelFormat format = kFormat555;              ///< QUARLO_FORMAT: 8, 555, 565, 24
-    int scale = 1;                                ///< QUARLO_SCALE: of a new window, 1 to 8
-    std::string title = "quarlo";                 ///< QUARLO_TITLE: of the window
-    std::string png = "quarlo.png";               ///< QUARLO_PNG: path of the picture file
+    /// QUARLO_DISPLAY: sdl, memory, png, vnc
+    DisplayKind display = DisplayKind::Automatic;
+    int width = 800;                        ///< QUARLO_WIDTH: pixels, 1 to 2560
+    int height = 600;                       ///< QUARLO_HEIGHT: pixels, 1 to 2560
+    PixelFormat format = kFormat555;        ///< QUARLO_FORMAT: 8, 555, 565, 24
+    int scale = 1;                          ///< QUARLO_SCALE: of a new window, 1 to 8
+    std::string title = "quarlo";           ///< QUARLO_TITLE: of the window
+    std::string png = "quarlo.png";         ///< QUARLO_PNG: path of the picture file
+    std::string vncAddress = "127.0.0.1";   ///< QUARLO_VNC_ADDRESS: where viewers connect
+    int vncPort = 5900;                     ///< QUARLO_VNC_PORT: 0 (any free) to 65535
+    std::string vncPassword;                ///< QUARLO_VNC_PASSWORD: none if empty
+    bool vncViewOnly = false;               ///< QUARLO_VNC_VIEW_ONLY: yes, no
     std::string files = ".";                ///< QUARLO_FILES: folder that holds the program's files
     std::string dataServer = "data";        ///< QUARLO_DATA_SERVER: folder of the data server
     std::string programs = "programs";      ///< QUARLO_PROGRAMS: folder of programs

@@ -2,6 +2,7 @@
 
 #include "display/headless_back_end.h"
 #include "display/sdl_back_end.h"
+#include "display/vnc/vnc_back_end.h"
 #include "report.h"
 
 namespace gpi {
@@ -14,6 +15,8 @@ std::unique_ptr<BackEnd> openBackEnd(const Settings& settings, const Frame& fram
         return std::make_unique<MemoryBackEnd>();
     case DisplayKind::Png:
         return std::make_unique<PngBackEnd>(settings.png);
+    case DisplayKind::Vnc:
+        return openVncBackEnd(settings, frame, input);
     case DisplayKind::Automatic:
         break;
     }

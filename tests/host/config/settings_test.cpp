@@ -83,8 +83,10 @@ TEST(Settings, ComeFromTheEnvironment) {
 
 TEST(Settings, KnowEveryDisplayAndFormat) {
     const Environment environment(nothing());
-    const std::pair<const char*, DisplayKind> displays[] = {
-        {"sdl", DisplayKind::Sdl}, {"memory", DisplayKind::Memory}, {"png", DisplayKind::Png}};
+    const std::pair<const char*, DisplayKind> displays[] = {{"sdl", DisplayKind::Sdl},
+                                                            {"memory", DisplayKind::Memory},
+                                                            {"png", DisplayKind::Png},
+                                                            {"vnc", DisplayKind::Vnc}};
     for (const auto& [name, kind] : displays) {
         const Environment one{{"QUARLO_DISPLAY", name}};
         EXPECT_EQ(Read().settings.display, kind) << name;
@@ -95,6 +97,24 @@ TEST(Settings, KnowEveryDisplayAndFormat) {
         const Environment one{{"QUARLO_FORMAT", name}};
         EXPECT_EQ(Read().settings.format, format) << name;
     }
+}
+
+TEST(Settings, KeepViewersOnThisComputerByDefault) {
+    const Environment environment(nothing());
+    EXPECT_EQ(Read().settings.vncAddress, "127.0.0.1");
+    EXPECT_EQ(Read().settings.vncPort, 5900);
+    EXPECT_EQ(Read().settings.vncPassword, "");
+    EXPECT_FALSE(Read().settings.vncViewOnly);
+    const Environment remote{{"QUARLO_VNC_ADDRESS", "192.168.0.7"},
+                             {"QUARLO_VNC_PORT", "65535"},
+                             {"QUARLO_VNC_PASSWORD", "spindle"},
+                             {"QUARLO_VNC_VIEW_ONLY", "yes"}};
+    const Read read;
+    EXPECT_EQ(read.settings.vncAddress, "192.168.0.7");
+    EXPECT_EQ(read.settings.vncPort, 65535);
+    EXPECT_EQ(read.settings.vncPassword, "spindle");
+    EXPECT_TRUE(read.settings.vncViewOnly);
+    EXPECT_EQ(read.said, "");
 }
 
 TEST(Settings, ChooseTheControl) {
@@ -127,6 +147,8 @@ TEST(Settings, NameAWrongValueInOneLineAndTakeTheDefault) {
         {"QUARLO_MEMORY_LIMIT", "-1"},
         {"QUARLO_MEMORY_LIMIT", "1e9"},
         {"QUARLO_MEMORY_LIMIT", "99999999999999999999"},
+        {"QUARLO_VNC_PORT", "65536"},
+        {"QUARLO_VNC_VIEW_ONLY", "1"},
         {"QUARLO_NET_CONNECT_TIMEOUT", "0"},
         {"QUARLO_NET_IDLE_TIMEOUT", "30s"},
         {"QUARLO_NET_REDIRECTS", "51"},
@@ -147,6 +169,8 @@ TEST(Settings, NameAWrongValueInOneLineAndTakeTheDefault) {
         EXPECT_EQ(read.settings.connectTimeout, 10000);
         EXPECT_EQ(read.settings.idleTimeout, 30000);
         EXPECT_EQ(read.settings.redirects, 10);
+        EXPECT_EQ(read.settings.vncPort, 5900);
+        EXPECT_FALSE(read.settings.vncViewOnly);
     }
 }
 

@@ -1,6 +1,7 @@
 #include "support/process.h"
 
 #include <fcntl.h>
+#include <signal.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -19,6 +20,19 @@ void become(const std::vector<std::string>& words, const std::string& output) {
     arguments.push_back(nullptr);
     execv(arguments[0], arguments.data());
     _exit(127);
+}
+
+Process::Process(const std::vector<std::string>& words) : process_(fork()) {
+    if (process_ == 0) {
+        become(words);
+    }
+}
+
+Process::~Process() {
+    if (process_ > 0) {
+        kill(process_, SIGTERM);
+        waitpid(process_, nullptr, 0);
+    }
 }
 
 int run(const std::vector<std::string>& words) {
