@@ -29,5 +29,5 @@ need_packages() {
 # What building the library and the host platform takes.
 build_packages="g++ cmake ninja-build pkg-config libsdl2-dev libpng-dev libsimpleini-dev \
     libturbojpeg0-dev libfreetype-dev libfontconfig-dev libcurl4-openssl-dev \
-    libvncserver-dev \
+    libvncserver-dev libdrm-dev \
     fonts-vlgothic fonts-wqy-zenhei fonts-dejavu-core"

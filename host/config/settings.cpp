@@ -94,7 +94,9 @@ Settings readSettings(const SettingSource& source) {
                                {{"sdl", DisplayKind::Sdl},
                                 {"memory", DisplayKind::Memory},
                                 {"png", DisplayKind::Png},
-                                {"vnc", DisplayKind::Vnc}},
+                                {"vnc", DisplayKind::Vnc},
+                                {"fbdev", DisplayKind::Fbdev},
+                                {"drm", DisplayKind::Drm}},
                                settings.display);
     reader.number("QUARLO_WIDTH", 1, 2560, settings.width);
     reader.number("QUARLO_HEIGHT", 1, 2560, settings.height);
@@ -110,6 +112,7 @@ Settings readSettings(const SettingSource& source) {
     reader.text("QUARLO_VNC_PASSWORD", settings.vncPassword);
     reader.choice<bool>("QUARLO_VNC_VIEW_ONLY", {{"yes", true}, {"no", false}},
                         settings.vncViewOnly);
+    reader.text("QUARLO_SCREEN", settings.screen);
     reader.text("QUARLO_FILES", settings.files);
     reader.text("QUARLO_DATA_SERVER", settings.dataServer);
     reader.text("QUARLO_PROGRAMS", settings.programs);

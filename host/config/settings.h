@@ -17,7 +17,9 @@ enum class DisplayKind {
     Sdl,       ///< a window
     Memory,    ///< nowhere
     Png,       ///< a picture file, written at the end
-    Vnc        ///< wherever viewers are
+    Vnc,       ///< wherever viewers are
+    Fbdev,     ///< a screen, by its frame buffer device
+    Drm        ///< a screen, by the kernel's mode setting
 };
 
 /// Which control the numerical-control data come from.
@@ -31,7 +33,7 @@ enum class ControlKind {
 inline constexpr const char* kWholeStringsSetting = "QUARLO_WHOLE_STRINGS";
 
 struct Settings {
-    /// QUARLO_DISPLAY: sdl, memory, png, vnc
+    /// QUARLO_DISPLAY: sdl, memory, png, vnc, fbdev, drm
     DisplayKind display = DisplayKind::Automatic;
     int width = 800;                        ///< QUARLO_WIDTH: pixels, 1 to 2560
     int height = 600;                       ///< QUARLO_HEIGHT: pixels, 1 to 2560
@@ -43,6 +45,7 @@ struct Settings {
     int vncPort = 5900;                     ///< QUARLO_VNC_PORT: 0 (any free) to 65535
     std::string vncPassword;                ///< QUARLO_VNC_PASSWORD: none if empty
     bool vncViewOnly = false;               ///< QUARLO_VNC_VIEW_ONLY: yes, no
+    std::string screen;                     ///< QUARLO_SCREEN: device of the screen, or the first
     std::string files = ".";                ///< QUARLO_FILES: folder that holds the program's files
     std::string dataServer = "data";        ///< QUARLO_DATA_SERVER: folder of the data server
     std::string programs = "programs";      ///< QUARLO_PROGRAMS: folder of programs

@@ -1,6 +1,7 @@
 #include "display/back_end.h"
 
 #include "display/headless_back_end.h"
+#include "display/screen/screen_back_end.h"
 #include "display/sdl_back_end.h"
 #include "display/vnc/vnc_back_end.h"
 #include "report.h"
@@ -17,6 +18,10 @@ std::unique_ptr<BackEnd> openBackEnd(const Settings& settings, const Frame& fram
         return std::make_unique<PngBackEnd>(settings.png);
     case DisplayKind::Vnc:
         return openVncBackEnd(settings, frame, input);
+    case DisplayKind::Fbdev:
+        return openFbdevBackEnd(settings, frame);
+    case DisplayKind::Drm:
+        return openDrmBackEnd(settings, frame);
     case DisplayKind::Automatic:
         break;
     }

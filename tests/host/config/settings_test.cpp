@@ -83,10 +83,9 @@ TEST(Settings, ComeFromTheEnvironment) {
 
 TEST(Settings, KnowEveryDisplayAndFormat) {
     const Environment environment(nothing());
-    const std::pair<const char*, DisplayKind> displays[] = {{"sdl", DisplayKind::Sdl},
-                                                            {"memory", DisplayKind::Memory},
-                                                            {"png", DisplayKind::Png},
-                                                            {"vnc", DisplayKind::Vnc}};
+    const std::pair<const char*, DisplayKind> displays[] = {
+        {"sdl", DisplayKind::Sdl}, {"memory", DisplayKind::Memory}, {"png", DisplayKind::Png},
+        {"vnc", DisplayKind::Vnc}, {"fbdev", DisplayKind::Fbdev},   {"drm", DisplayKind::Drm}};
     for (const auto& [name, kind] : displays) {
         const Environment one{{"QUARLO_DISPLAY", name}};
         EXPECT_EQ(Read().settings.display, kind) << name;
@@ -115,6 +114,13 @@ TEST(Settings, KeepViewersOnThisComputerByDefault) {
     EXPECT_EQ(read.settings.vncPassword, "spindle");
     EXPECT_TRUE(read.settings.vncViewOnly);
     EXPECT_EQ(read.said, "");
+}
+
+TEST(Settings, NameAScreen) {
+    const Environment environment(nothing());
+    EXPECT_EQ(Read().settings.screen, "");
+    const Environment second{{"QUARLO_SCREEN", "/dev/fb1"}};
+    EXPECT_EQ(Read().settings.screen, "/dev/fb1");
 }
 
 TEST(Settings, ChooseTheControl) {
