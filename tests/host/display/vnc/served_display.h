@@ -8,11 +8,18 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <optional>
 #include <string>
 #include <vector>
 
 namespace gpi::test {
+
+/// The number at the end of the line that tells where viewers connect; 0 when there is none.
+inline int portIn(const std::string& said) {
+    const size_t at = said.rfind(' ');
+    return at != std::string::npos ? std::atoi(said.c_str() + at) : 0;
+}
 
 /// Runs for the time of a test, at any port that is free.
 class ServedDisplay {
@@ -29,11 +36,7 @@ class ServedDisplay {
     /// All that the platform said on its start.
     const std::string& said() const { return said_; }
 
-    /// The port, out of the line that names it.
-    int port() const {
-        const size_t at = said_.rfind(' ');
-        return at != std::string::npos ? std::atoi(said_.c_str() + at) : 0;
-    }
+    int port() const { return portIn(said_); }
 
     void stop() { platform_.reset(); }
 
