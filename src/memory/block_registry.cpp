@@ -7,12 +7,12 @@ namespace quarlo {
 bool readName(BlockName& out, const char16_t* name) {
     out = {};
     for (char16_t& unit : out) {
-        unit = *name++;
-        if (unit == 0) {
-            return out[0] != 0;
+        if (*name == 0) {
+            break;
         }
+        unit = *name++;
     }
-    return false;
+    return *name == 0 && out[0] != 0;
 }
 
 Block* BlockRegistry::findByName(const BlockName& name) {
@@ -22,15 +22,15 @@ Block* BlockRegistry::findByName(const BlockName& name) {
 }
 
 void BlockRegistry::enter(Block& block) {
-    Block*& first = buckets_[bucketOf(block.data)];
+    uint16_t& first = buckets_[bucketOf(block.data)];
     block.next = first;
-    first = &block;
+    first = linkTo(block);
 }
 
 void BlockRegistry::remove(Block& block) {
-    Block** link = &buckets_[bucketOf(block.data)];
-    while (*link != &block) {
-        link = &(*link)->next;
+    uint16_t* link = &buckets_[bucketOf(block.data)];
+    while (*link != linkTo(block)) {
+        link = &blocks_[*link - 1].next;
     }
     *link = block.next;
     block = {};

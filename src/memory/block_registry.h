@@ -9,8 +9,8 @@
 
 namespace quarlo {
 
-/// A name of 1 to 15 units, the rest zeros.
-using BlockName = std::array<char16_t, G_TYPED_MEMORY_NAME_SIZE>;
+/// A name of 1 to 15 units, the rest zeros. The zero behind the longest takes no room.
+using BlockName = std::array<char16_t, G_TYPED_MEMORY_NAME_SIZE - 1>;
 
 /// Copies a name. @return false for one that is empty or too long
 bool readName(BlockName& out, const char16_t* name);
@@ -18,23 +18,24 @@ bool readName(BlockName& out, const char16_t* name);
 /// A block. A free one has no data, and a name that no block can have.
 struct Block {
     BlockName name;
+    uint16_t next; ///< link to the next in its bucket
     uint32_t size;
     unsigned char* data;
-    Block* next; ///< in its bucket
 };
 
 /// Every use of a block starts from its address, so addresses are hashed: the place of a block
-/// among the others does not matter.
+/// among the others does not matter. A link is a block's place and 1, or 0: the registry is most of
+/// the memory that the library takes for itself, and pointers would add a quarter to it.
 class BlockRegistry {
   public:
     Block* findByName(const BlockName& name);
 
-    Block* findByAddress(const void* data) const {
-        Block* block = buckets_[bucketOf(data)];
-        while (block != nullptr && block->data != data) {
-            block = block->next;
+    Block* findByAddress(const void* data) {
+        uint16_t link = buckets_[bucketOf(data)];
+        while (link != 0 && blocks_[link - 1].data != data) {
+            link = blocks_[link - 1].next;
         }
-        return block;
+        return link != 0 ? &blocks_[link - 1] : nullptr;
     }
 
     std::array<Block, G_TYPED_MEMORY_COUNT>& blocks() { return blocks_; }
@@ -46,7 +47,7 @@ class BlockRegistry {
     void remove(Block& block);
 
   private:
-    static constexpr int kBucketBits = 9;
+    static constexpr int kBucketBits = 8;
 
     /// Fibonacci hashing: the high bits of a product with 2^32 over the golden ratio.
     static size_t bucketOf(const void* data) {
@@ -54,8 +55,12 @@ class BlockRegistry {
         return key * UINT32_C(2654435769) >> (32 - kBucketBits);
     }
 
+    uint16_t linkTo(const Block& block) const {
+        return static_cast<uint16_t>(&block - blocks_.data() + 1);
+    }
+
     std::array<Block, G_TYPED_MEMORY_COUNT> blocks_;
-    std::array<Block*, size_t{1} << kBucketBits> buckets_;
+    std::array<uint16_t, size_t{1} << kBucketBits> buckets_;
 };
 
 } // namespace quarlo

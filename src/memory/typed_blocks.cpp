@@ -21,7 +21,7 @@ Block* addBlock(const BlockName& name, int32_t size) {
         }
         void* const data = allocateCleared(G_SPACE_TYPED_MEMORY, size);
         if (data != nullptr) {
-            block = {name, static_cast<uint32_t>(size), static_cast<unsigned char*>(data), nullptr};
+            block = {name, 0, static_cast<uint32_t>(size), static_cast<unsigned char*>(data)};
             registry.enter(block);
             return &block;
         }
