@@ -196,33 +196,5 @@ TEST(Url, SaysHowMuchRoomItNeeds) {
     EXPECT_EQ(size, 13);
 }
 
-TEST(Url, ServicesRefuseWrongArguments) {
-    GNetUrl parts{};
-    char16_t text[100];
-    int32_t size = 100;
-    int32_t negative = -1;
-    const char16_t* const url = u"http://host/";
-    const auto refused = [](int32_t result) {
-        return result == 0 && lastError() == G_NET_ARGUMENT;
-    };
-    EXPECT_TRUE(refused(crackUrl(nullptr, 0, &parts)));
-    EXPECT_TRUE(refused(crackUrl(url, 0, nullptr)));
-    EXPECT_TRUE(refused(crackUrl(url, G_URL_ENCODE, &parts)));
-    EXPECT_TRUE(refused(createUrl(nullptr, 0, text, &size)));
-    EXPECT_TRUE(refused(canonicalizeUrl(nullptr, text, &size, 0)));
-    EXPECT_TRUE(refused(canonicalizeUrl(url, text, nullptr, 0)));
-    EXPECT_TRUE(refused(canonicalizeUrl(url, nullptr, &size, 0)));
-    EXPECT_TRUE(refused(canonicalizeUrl(url, text, &negative, 0)));
-    EXPECT_TRUE(refused(canonicalizeUrl(url, text, &size, 8)));
-    EXPECT_TRUE(refused(combineUrl(nullptr, url, text, &size, 0)));
-    EXPECT_TRUE(refused(combineUrl(url, nullptr, text, &size, 0)));
-    EXPECT_TRUE(refused(combineUrl(url, url, text, nullptr, 0)));
-    EXPECT_TRUE(refused(combineUrl(url, url, text, &size, 8)));
-    ASSERT_EQ(crackUrl(url, 0, &parts), 1);
-    EXPECT_TRUE(refused(createUrl(&parts, 2048, text, &size)));
-    EXPECT_TRUE(refused(createUrl(&parts, 0, text, nullptr)));
-    EXPECT_TRUE(refused(createUrl(&parts, 0, nullptr, &size)));
-}
-
 } // namespace
 } // namespace gpi::test
