@@ -24,21 +24,17 @@ const std::set<int32_t> kWithoutArguments = {GPI_SERVICE_STOP,
                                              GPI_SERVICE_START_EVENT_SIGNAL,
                                              GPI_SERVICE_SIGNAL_EVENT,
                                              GPI_SERVICE_EVENT_TAKEN,
-                                             GPI_SERVICE_UNLOCK_EVENTS};
+                                             GPI_SERVICE_UNLOCK_EVENTS,
+                                             GPI_SERVICE_NET_GET_LAST_ERROR};
 
 /// Services that take whatever they are given.
 const std::set<int32_t> kWithoutRefusal = {GPI_SERVICE_START, GPI_SERVICE_START_SECOND,
                                            GPI_SERVICE_WAIT_EVENT, GPI_SERVICE_LOCK_EVENTS,
                                            GPI_SERVICE_TIME};
 
-/// The network's are asked in tests of their own, which know its handles.
-bool isOfNetwork(int32_t number) {
-    return number >= GPI_SERVICE_CRACK_URL && number <= GPI_SERVICE_NET_GET_LAST_ERROR;
-}
-
 bool canRefuse(int32_t number) {
     return quarlo::slotOf(number) < quarlo::kServiceCount && !kWithoutArguments.contains(number) &&
-           !kWithoutRefusal.contains(number) && !isOfNetwork(number);
+           !kWithoutRefusal.contains(number);
 }
 
 class Coverage : public testing::Environment {
