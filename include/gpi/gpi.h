@@ -14,12 +14,12 @@
 #include <quarlo/event.h>
 #include <quarlo/types.h>
 
-#if defined(_WIN32) && defined(GPI_BUILDING)
-#define GPI_API __declspec(dllexport)
-#elif defined(_WIN32)
-#define GPI_API __declspec(dllimport)
-#else
+#if !defined(_WIN32)
 #define GPI_API __attribute__((visibility("default")))
+#elif defined(GPI_BUILDING)
+#define GPI_API /* exported by ordinal: 23, 21 and 24, in the order below */
+#else
+#define GPI_API __declspec(dllimport)
 #endif
 
 QUARLO_BEGIN

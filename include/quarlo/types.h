@@ -14,12 +14,12 @@
 #include <uchar.h>
 #endif
 
-#if defined(_WIN32) && defined(QUARLO_BUILDING)
-#define QUARLO_API __declspec(dllexport)
-#elif defined(_WIN32)
-#define QUARLO_API __declspec(dllimport)
-#else
+#if !defined(_WIN32)
 #define QUARLO_API __attribute__((visibility("default")))
+#elif defined(QUARLO_BUILDING)
+#define QUARLO_API /* a list of names and ordinals says what is exported */
+#else
+#define QUARLO_API __declspec(dllimport)
 #endif
 
 #ifdef __cplusplus

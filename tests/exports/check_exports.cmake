@@ -41,7 +41,8 @@ foreach(relocation IN LISTS relocations)
 endforeach()
 
 # Needed: the platform's entry points, answered by the program, and the standard library.
-run(undefined ${NM} --dynamic --undefined-only --format=posix ${LIBRARY})
+run(borrowed ${NM} --dynamic --undefined-only --format=posix ${LIBRARY})
+set(undefined ${borrowed})
 list(FILTER undefined INCLUDE REGEX "^G")
 list(TRANSFORM undefined REPLACE "[@ ].*" "")
 foreach(symbol IN LISTS undefined)
@@ -56,3 +57,23 @@ foreach(library IN LISTS dynamic)
         message(SEND_ERROR "depends on more than the standard library: ${library}")
     endif()
 endforeach()
+
+# Of the standard libraries: nothing that allocates, and no code of the C++ library's.
+foreach(symbol IN LISTS borrowed)
+    if(symbol MATCHES "@(GLIBCXX|CXXABI)_|^(malloc|calloc|realloc|free|_Zn[wa]|_Zd[la])")
+        message(SEND_ERROR "taken from a library: ${symbol}")
+    endif()
+endforeach()
+
+# Hardened: the stack holds no code, and nothing that the loader has filled stays writable.
+run(segments ${READELF} --segments --wide ${LIBRARY})
+if(NOT "${segments}" MATCHES "GNU_RELRO")
+    message(SEND_ERROR "tables stay writable")
+endif()
+if("${segments}" MATCHES "GNU_STACK[^;]* RWE ")
+    message(SEND_ERROR "the stack may hold code")
+endif()
+run(flags ${READELF} --dynamic --wide ${LIBRARY})
+if(NOT "${flags}" MATCHES "BIND_NOW|FLAGS_1[^;]* NOW")
+    message(SEND_ERROR "functions are bound late")
+endif()

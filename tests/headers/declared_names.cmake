@@ -4,13 +4,16 @@
 execute_process(COMMAND ${COMPILER} -std=c11 -E -P -I${INCLUDE} ${INCLUDE}/quarlo/quarlo.h
                 OUTPUT_VARIABLE text COMMAND_ERROR_IS_FATAL ANY)
 string(REPLACE ";" "\n" text "${text}")
-string(REGEX MATCHALL "visibility\\(\"default\"\\)\\)\\)[^\n(]*[ *\n][A-Za-z0-9_]+\\(" declarations
-       "${text}")
+set(exported "(visibility\\(\"default\"\\)|dllimport)\\)\\)")
+string(REGEX MATCHALL "${exported}[^\n(]*[ *\n][A-Za-z0-9_]+\\(" declarations "${text}")
 set(declared)
 foreach(declaration IN LISTS declarations)
     string(REGEX REPLACE ".*[ *\n]([A-Za-z0-9_]+)\\($" "\\1" name "${declaration}")
     list(APPEND declared ${name})
 endforeach()
+
+# Functions of the system with an attribute more.
+list(REMOVE_ITEM declared __attribute__)
 
 file(STRINGS ${EXPORTS} exports)
 set(undeclared ${exports})

@@ -1,7 +1,6 @@
 #include "support/guarded_surface.h"
 
-#include <sys/mman.h>
-#include <unistd.h>
+#include "support/pages.h"
 
 #include <algorithm>
 #include <cstring>
@@ -63,19 +62,17 @@ void setUsualMasks(GVram& vram) {
 } // namespace
 
 GuardedMemory::GuardedMemory(size_t size, Against side, size_t alignment) : size_(size) {
-    const auto page = static_cast<size_t>(sysconf(_SC_PAGESIZE));
+    const size_t page = pageSize();
     const size_t room = roundUp(size, alignment);
     pagesSize_ = roundUp(std::max<size_t>(room, 1), page);
     mappingSize_ = pagesSize_ + 2 * page;
-    void* const mapping =
-        mmap(nullptr, mappingSize_, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
-    if (mapping == MAP_FAILED) {
+    mapping_ = reservePages(mappingSize_);
+    if (mapping_ == nullptr) {
         throw std::bad_alloc();
     }
-    mapping_ = static_cast<uint8_t*>(mapping);
     pages_ = mapping_ + page;
-    if (mprotect(pages_, pagesSize_, PROT_READ | PROT_WRITE) != 0) {
-        munmap(mapping_, mappingSize_);
+    if (!openPages(pages_, pagesSize_)) {
+        releasePages(mapping_, mappingSize_);
         throw std::bad_alloc();
     }
     data_ = side == Against::Start ? pages_ : pages_ + pagesSize_ - room;
@@ -84,7 +81,7 @@ GuardedMemory::GuardedMemory(size_t size, Against side, size_t alignment) : size
 }
 
 GuardedMemory::~GuardedMemory() {
-    munmap(mapping_, mappingSize_);
+    releasePages(mapping_, mappingSize_);
 }
 
 bool GuardedMemory::intact() const {
