@@ -48,10 +48,14 @@ void drawByKernel(const Canvas& canvas, const VisibleGlyph& visible, const Glyph
     const kernel::GlyphBits bits{visible.row(visible.top), rowBytes(visible.glyph),
                                  visible.glyph.bitsPerPixel, visible.firstColumn()};
     const bool opaque = colors.back != G_NO_COLOR;
-    const auto draw = opaque ? kernels.opaqueGlyph : kernels.transparentGlyph;
-    uint8_t* const end = draw(canvas.addressOf(visible.left, visible.top),
-                              canvas.surface.bytesPerLine, bits, visible.right - visible.left + 1,
-                              visible.bottom - visible.top + 1, colors.fore, colors.back);
+    uint8_t* const at = canvas.addressOf(visible.left, visible.top);
+    const ptrdiff_t stride = canvas.surface.bytesPerLine;
+    const int32_t width = visible.right - visible.left + 1;
+    const int32_t height = visible.bottom - visible.top + 1;
+    uint8_t* const end =
+        opaque
+            ? kernels.opaqueGlyph(at, stride, bits, width, height, colors.fore, colors.back)
+            : kernels.transparentGlyph(at, stride, bits, width, height, colors.fore, colors.back);
     if (end != nullptr) {
         canvas.leaveCell(colors.fore, end);
     } else if (opaque) {

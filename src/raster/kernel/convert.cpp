@@ -98,8 +98,8 @@ template <typename Reader, typename Format, typename Mode>
 }
 
 template <typename Reader, typename Format, typename Mode>
-void convert(const Transfer& transfer, const PixelLayout& from, const PixelMove& move) {
-    const Reader read(from, move);
+void convert(const Transfer& transfer, const PixelLayout& from, const PixelLayout& to, int32_t) {
+    const Reader read(from, PixelMove(from, to));
     for (int32_t row = 0; row < transfer.height; ++row) {
         convertRow<Reader, Format, Mode>(transfer.to + row * transfer.toStride,
                                          transfer.from + row * transfer.fromStride, transfer.width,
@@ -134,7 +134,7 @@ void convertRect(const Transfer& transfer, const PixelLayout& from, const PixelL
     }
     const ConvertPixels vectors = vectorConversion(from, to, mode);
     const ConvertPixels convert = vectors != nullptr ? vectors : portableConversion(from, to, mode);
-    convert(transfer, from, PixelMove(from, to));
+    convert(transfer, from, to, mode);
 }
 
 } // namespace quarlo::kernel

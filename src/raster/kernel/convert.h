@@ -8,9 +8,9 @@
 
 namespace quarlo::kernel {
 
-/// Converts a rectangle from a layout and combines it with what is there.
+/// As convertRect(), for the formats and the mode that it was asked for with.
 using ConvertPixels = void (*)(const Transfer& transfer, const PixelLayout& from,
-                               const PixelMove& move);
+                               const PixelLayout& to, int32_t mode);
 
 /// The way for any two layouts and drawing mode 0 to 3, in portable code.
 ConvertPixels portableConversion(const PixelLayout& from, const PixelLayout& to, int32_t mode);

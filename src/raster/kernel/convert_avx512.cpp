@@ -7,7 +7,8 @@
 // 24 bits 155 and 19, 24 bits to 5-5-5 206 and 19, palette to 16 bits 76 and 12.
 #include "raster/kernel/convert.h"
 
-#if defined(__x86_64__)
+// On Windows GCC does not align vectors of more than 16 bytes on the stack, and still counts on it.
+#if defined(__x86_64__) && !defined(_WIN32)
 
 #include "raster/kernel/mode.h"
 
@@ -198,8 +199,8 @@ template <typename Mode, typename Map, int From, int To>
 
 template <int From, int To, typename Mode>
 [[gnu::target("avx512bw,avx512vbmi,gfni")]] void
-convertChannels(const Transfer& transfer, const PixelLayout&, const PixelMove& move) {
-    const MovedBits moved(move);
+convertChannels(const Transfer& transfer, const PixelLayout& from, const PixelLayout& to, int32_t) {
+    const MovedBits moved{PixelMove(from, to)};
     BitMatrix matrices[From][To];
     for (int byte = 0; byte < From; ++byte) {
         for (int i = 0; i < To; ++i) {
@@ -211,8 +212,8 @@ convertChannels(const Transfer& transfer, const PixelLayout&, const PixelMove& m
 
 template <int To, typename Mode>
 [[gnu::target("avx512bw,avx512vbmi,gfni")]] void
-convertPalette(const Transfer& transfer, const PixelLayout& from, const PixelMove& move) {
-    const MovedPalette palette(from, move);
+convertPalette(const Transfer& transfer, const PixelLayout& from, const PixelLayout& to, int32_t) {
+    const MovedPalette palette(from, PixelMove(from, to));
     ByteMap maps[1][To];
     for (int i = 0; i < To; ++i) {
         maps[0][i] = mapOf(palette.values, i);

@@ -26,6 +26,8 @@ struct DashSteps {
     uint64_t pattern; ///< step k is bit k; a set bit draws
     uint32_t phase;   ///< 16.16 fixed point, before the first pixel
     uint32_t step;    ///< 16.16 fixed point, added before each pixel
+
+    bool drawsAt(uint32_t at) const { return (pattern >> (at >> 16 & 63) & 1) != 0; }
 };
 
 /// A run of pixels on one row, both ends included.
@@ -59,6 +61,37 @@ struct LastPixel {
     uint32_t pixel;
     uint8_t* cursor;
 };
+
+#ifdef QUARLO_SMALL_KERNELS
+
+/// One format and mode for loops that serve them all. Each member does what the kernel of its name
+/// below does; a caller need not know which of the two it calls.
+struct Kernels {
+    int32_t bytesPerPixel;
+    int32_t mode;
+
+    uint8_t* fill(uint8_t* at, ptrdiff_t stride, int32_t width, int32_t height,
+                  uint32_t pixel) const;
+    uint8_t* fillPattern(uint8_t* at, ptrdiff_t stride, int32_t width, int32_t height,
+                         uint32_t fore, uint32_t back, const uint8_t rows[8], int32_t x,
+                         int32_t y) const;
+    uint8_t* fillSpans(uint8_t* pixels, ptrdiff_t stride, const Span* spans, int32_t count,
+                       uint32_t pixel) const;
+    uint8_t* fillPatternSpans(uint8_t* pixels, ptrdiff_t stride, const Span* spans, int32_t count,
+                              uint32_t fore, uint32_t back, const uint8_t rows[8]) const;
+    uint8_t* line(uint8_t* at, const LineSteps& steps, uint32_t pixel) const;
+    uint8_t* dashedLine(uint8_t* at, const LineSteps& steps, const DashSteps& dash,
+                        uint32_t pixel) const;
+    uint8_t* transparentGlyph(uint8_t* at, ptrdiff_t stride, const GlyphBits& glyph, int32_t width,
+                              int32_t height, uint32_t fore, uint32_t back) const;
+    uint8_t* opaqueGlyph(uint8_t* at, ptrdiff_t stride, const GlyphBits& glyph, int32_t width,
+                         int32_t height, uint32_t fore, uint32_t back) const;
+    LastPixel runs(uint8_t* at, ptrdiff_t stride, const RunImage& image) const;
+    uint8_t* bytes(uint8_t* at, const uint8_t* values, int32_t count) const;
+    void putPixel(uint8_t* at, uint32_t pixel) const;
+};
+
+#else
 
 /// All kernels of one format and mode. Counts are at least 1.
 struct Kernels {
@@ -102,6 +135,8 @@ struct Kernels {
 
     void (*putPixel)(uint8_t* at, uint32_t pixel);
 };
+
+#endif
 
 /// By bytes a pixel less one, then by drawing mode.
 extern const Kernels kernelTable[3][4];

@@ -59,7 +59,7 @@ uint8_t* dashedLine(uint8_t* at, const LineSteps& steps, const DashSteps& dash, 
     uint32_t phase = dash.phase;
     for (int32_t left = steps.count;;) {
         phase += dash.step;
-        if ((dash.pattern >> (phase >> 16 & 63) & 1) != 0) {
+        if (dash.drawsAt(phase)) {
             putPixel<Format, Mode>(walk.at(), pixel);
             cursor = walk.at() + Format::kBytes;
         }

@@ -135,8 +135,7 @@ class ConvertRect : public testing::Test {
         std::copy(read.begin(), read.end(), input.data());
         for (const ConvertPixels convert : waysOf(from, to, mode)) {
             std::copy(fresh.begin(), fresh.end(), output.data());
-            convert({output.data(), 12345, input.data(), -12345, width, 1}, from,
-                    PixelMove(from, to));
+            convert({output.data(), 12345, input.data(), -12345, width, 1}, from, to, mode);
             ASSERT_EQ(std::vector<uint8_t>(output.data(), output.data() + output.size()), expected)
                 << width << " pixels from " << source.name << " to " << target.name << ", mode "
                 << mode << (convert == portableConversion(from, to, mode) ? ", portable" : "");
@@ -212,7 +211,7 @@ TEST_F(ConvertRect, EveryValueOf16Bits) {
             std::vector<uint8_t> output(65536 * static_cast<size_t>(to.bitsPerPixel / 8));
             const std::vector<uint8_t> expected = modelled(output, read.data(), from, to, 0);
             for (const ConvertPixels convert : waysOf(from, to, 0)) {
-                convert({output.data(), 0, read.data(), 0, 65536, 1}, from, PixelMove(from, to));
+                convert({output.data(), 0, read.data(), 0, 65536, 1}, from, to, 0);
                 ASSERT_EQ(output, expected) << "from " << source.name << " to " << target.name;
             }
         }
@@ -263,13 +262,12 @@ TEST_F(ConvertRect, RowsAreApartByTheirStrides) {
     }
     for (const ConvertPixels convert : waysOf(from, to, 2)) {
         std::vector<uint8_t> down = fresh;
-        convert({down.data(), kToStride, read.data(), kFromStride, kWidth, kHeight}, from,
-                PixelMove(from, to));
+        convert({down.data(), kToStride, read.data(), kFromStride, kWidth, kHeight}, from, to, 2);
         EXPECT_EQ(down, expected);
         std::vector<uint8_t> up = fresh;
         convert({up.data() + kLast * kToStride, -kToStride, read.data() + kLast * kFromStride,
                  -kFromStride, kWidth, kHeight},
-                from, PixelMove(from, to));
+                from, to, 2);
         EXPECT_EQ(up, expected);
     }
 }

@@ -84,7 +84,10 @@ std::string check(const Glyph& glyph) {
     }
     const kernel::Kernels& kernels = *kernel::kernelsFor(glyph.bits, glyph.mode);
     const kernel::GlyphBits bits{bitmap.data(), stride, glyph.depth, glyph.firstPixel};
-    const auto draw = glyph.opaque ? kernels.opaqueGlyph : kernels.transparentGlyph;
+    const auto draw = [&](auto... arguments) {
+        return glyph.opaque ? kernels.opaqueGlyph(arguments...)
+                            : kernels.transparentGlyph(arguments...);
+    };
     uint8_t* const cursor =
         draw(memory.data(), rowBytes, bits, glyph.width, glyph.height, kFore, kBack);
     if (!expected.met()) {
