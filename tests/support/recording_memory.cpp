@@ -15,7 +15,12 @@ constexpr size_t kBlockAlignment = 16;
 } // namespace
 
 void RecordingPlatform::failAllocation(int n) {
-    untilFailure_ = n;
+    failAllocations(n > 0 ? std::set{n} : std::set<int>{});
+}
+
+void RecordingPlatform::failAllocations(const std::set<int>& failing) {
+    allocations_ = 0;
+    failing_ = failing;
     allocationFailed_ = false;
 }
 
@@ -28,11 +33,12 @@ size_t RecordingPlatform::bytesInUse() const {
 }
 
 void* RecordingPlatform::allocate(int32_t space, int32_t size) {
-    if (untilFailure_ > 0 && --untilFailure_ == 0) {
-        allocationFailed_ = true;
+    ++allocations_;
+    if (failing_.contains(allocations_)) {
+        allocationFailed_ = allocations_ == *failing_.rbegin();
         return nullptr;
     }
-    if (size <= 0 && !grantEmptyBlocks_) {
+    if ((size <= 0 && !grantEmptyBlocks_) || size > mostBytes_) {
         return nullptr;
     }
     auto memory = std::make_unique<GuardedMemory>(static_cast<size_t>(std::max(size, 0)), side_,

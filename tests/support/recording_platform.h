@@ -15,6 +15,7 @@
 #include <map>
 #include <memory>
 #include <ostream>
+#include <set>
 #include <string>
 #include <type_traits>
 #include <vector>
@@ -112,8 +113,12 @@ class RecordingPlatform {
 
     /// Makes the n-th allocation from now fail, 1 being the next; 0 fails none.
     void failAllocation(int n);
+    /// The same for several: "that allocation" is the last of them.
+    void failAllocations(const std::set<int>& failing);
     /// Whether that allocation was asked for.
     bool allocationFailed() const { return allocationFailed_; }
+    /// Has no memory for larger blocks.
+    void limitBlocks(int32_t bytes) { mostBytes_ = bytes; }
     /// Gives blocks for a size of zero or less, instead of null.
     void grantEmptyBlocks(bool grant) { grantEmptyBlocks_ = grant; }
     /// Which end of the blocks to come touches an inaccessible page.
@@ -162,8 +167,10 @@ class RecordingPlatform {
     std::map<int, int64_t> answers_;
 
     std::map<void*, Block> blocks_;
-    int untilFailure_ = 0;
+    int allocations_ = 0; ///< since failAllocations()
+    std::set<int> failing_;
     bool allocationFailed_ = false;
+    int32_t mostBytes_ = INT32_MAX;
     bool grantEmptyBlocks_ = false;
     Against side_ = Against::End;
 
