@@ -30,10 +30,12 @@ class Shape {
         }
     }
 
+    /// Always at the same place: a frame, or a polygon that is moved, takes a table's reference for
+    /// a point like any other.
     void draw(GDrawHandle* handle) {
-        std::vector<int16_t> block(2 * points_.size() + columns_.size());
-        auto* const points = reinterpret_cast<GPoint*>(block.data());
-        int16_t* const columns = block.data() + 2 * points_.size();
+        block_.resize(2 * points_.size() + columns_.size());
+        auto* const points = reinterpret_cast<GPoint*>(block_.data());
+        int16_t* const columns = block_.data() + 2 * points_.size();
         std::copy(points_.begin(), points_.end(), points);
         std::copy(columns_.begin(), columns_.end(), columns);
         for (const Table& table : tables_) {
@@ -81,6 +83,7 @@ class Shape {
     std::vector<GPoint> points_;
     std::vector<int16_t> columns_;
     std::vector<Table> tables_;
+    std::vector<int16_t> block_; ///< the points and, behind them, the columns
 };
 
 /// A style and a place, set alike on both handles.
