@@ -56,7 +56,9 @@ ExitStatus runPanel(panel::PanelOptions start) {
     panel::Panel panel(start);
     if (GPIHostHasWindow() != 0) {
         panel.run();
-    } // where nobody can see or end it, its first picture is all
+    } else {
+        panel.handlePending(); // nobody could see more than the first picture, or end it
+    }
     return kDone;
 }
 

@@ -66,8 +66,9 @@
  * all others. When 224 messages wait, others are refused; releases have 32 more places, and what
  * was refused is not released either.
  *
- * Drawing on a device surface stays inside it whatever the coordinates. Smooth glyphs have levels
- * from 0 to 15. A fill by service 70 without a pattern takes the one that service 69 was told of.
+ * Drawing on a device surface stays inside it whatever the coordinates. Levels of smooth glyphs are
+ * those of the handle's font: 0 to 3 with 2 bits a pixel, 0 to 15 with 4. A fill by service 70
+ * without a pattern takes the one that service 69 was told of.
  */
 #ifndef GPI_HOST_H
 #define GPI_HOST_H

@@ -198,7 +198,8 @@ typedef int32_t (*GPIGetFontUserAttribute)(GFontRecord* font, GFontUserAttribute
  * whatever `metricsOnly` says, and stay good until the next call.
  *
  * @param font the font; may be null
- * @param request `text` is set, and not at a NUL
+ * @param request `text` is set, and at a NUL only when GDGetCharWidth() or GDGetCharHeight() is
+ *     asked for unit 0
  * @return a value whose low 16 bits are 0 when there is no such glyph: nothing else is read then
  */
 typedef int32_t (*GPIGlyph)(GFontRecord* font, GGlyphRequest* request);

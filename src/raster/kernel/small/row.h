@@ -4,7 +4,6 @@
 #include "raster/kernel/block.h"
 #include "raster/kernel/small/ink.h"
 
-#include <bit>
 #include <cstddef>
 #include <cstdint>
 
