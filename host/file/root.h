@@ -31,6 +31,7 @@ class Root {
     /// slash and back slash both separate folders.
     ///
     /// @throws IoError for null, a path that is too long, no text, or leads out
+    /// @throws std::system_error for what the system refuses, such as a name of more than 255 bytes
     Place locate(const char16_t* path, LastLink last = LastLink::Followed) const;
 
     /// The same as a path of the system, for calls that want one.

@@ -23,8 +23,10 @@ class Decoder {
             throw IoError(G_IO_NO_MEMORY);
         }
         int subsampling = 0;
+        // A stream of tables alone is read, and has no size.
         if (tjDecompressHeader3(turbo_.get(), stream.data(), stream.size(), &width_, &height_,
-                                &subsampling, &space_) != 0) {
+                                &subsampling, &space_) != 0 ||
+            width_ <= 0 || height_ <= 0) {
             throw IoError(G_IO_DAMAGED);
         }
     }

@@ -6,6 +6,8 @@
 #define SI_NO_CONVERSION // plain bytes: the document is UTF-8 throughout
 #include <SimpleIni.h>
 
+#include <algorithm>
+
 namespace gpi {
 namespace {
 
@@ -38,7 +40,7 @@ std::string decoded(std::string_view bytes, const Encoding& encoding) {
 }
 
 bool isCommentOrBlank(std::string_view line) {
-    const size_t start = line.find_first_not_of(" \t\r");
+    const size_t start = line.find_first_not_of(" \t");
     return start == line.npos || line[start] == ';' || line[start] == '#';
 }
 
@@ -62,6 +64,37 @@ void replaceAll(std::string& text, std::string_view from, std::string_view to) {
     }
 }
 
+/// Makes comments of section lines that lack their bracket at the end: the parser would take the
+/// lines that follow for a part of the name.
+void silenceOpenSections(std::string& text) {
+    for (size_t line = 0; line < text.size();) {
+        const size_t start = text.find_first_not_of(" \t", line);
+        const size_t end = std::min(text.find('\n', line), text.size());
+        if (start < end && text[start] == '[' && text.find(']', start) > end) {
+            text.insert(start, 1, ';');
+            line = end + 2;
+        } else {
+            line = end + 1;
+        }
+    }
+}
+
+bool isInQuotes(std::string_view value) {
+    return value.size() > 1 && value.front() == '"' && value.back() == '"';
+}
+
+/// What a file's spelling of a value stands for: one pair of quotes is none of it.
+std::string unquoted(std::string_view spelling) {
+    return std::string(isInQuotes(spelling) ? spelling.substr(1, spelling.size() - 2) : spelling);
+}
+
+/// A value in quotes if it needs them: for the spaces at its ends, or for quotes of its own.
+std::string quoted(const std::string& value) {
+    const auto isSpace = [](char byte) { return byte == ' ' || byte == '\t'; };
+    const bool edges = !value.empty() && (isSpace(value.front()) || isSpace(value.back()));
+    return edges || isInQuotes(value) ? '"' + value + '"' : value;
+}
+
 std::vector<std::string> namesOf(CSimpleIniA::TNamesDepend& entries) {
     entries.sort(CSimpleIniA::Entry::LoadOrder());
     std::vector<std::string> names;
@@ -76,21 +109,21 @@ std::vector<std::string> namesOf(CSimpleIniA::TNamesDepend& entries) {
 } // namespace
 
 struct ProfileDocument::Content {
-    CSimpleIniA ini{true};
+    CSimpleIniA ini{true}; ///< values as the file spells them
     Encoding encoding = kPlain;
     bool crLf = false;
     std::string closing;
 };
 
-ProfileDocument::ProfileDocument() : content_(std::make_unique<Content>()) {
-    content_->ini.SetQuotes(); // a value may begin or end with spaces
-}
+ProfileDocument::ProfileDocument() : content_(std::make_unique<Content>()) {}
 
 ProfileDocument::ProfileDocument(std::string_view bytes, const char* codePage) : ProfileDocument() {
     content_->encoding = encodingOf(bytes, codePage);
     std::string text = decoded(bytes, content_->encoding);
     content_->crLf = text.find("\r\n") != text.npos;
     replaceAll(text, "\r\n", "\n");
+    std::replace(text.begin(), text.end(), '\r', '\n');
+    silenceOpenSections(text);
     content_->closing = closingComments(text);
     content_->ini.SetSpaces(text.find(" = ") != text.npos);
     if (content_->ini.LoadData(text) < 0) {
@@ -105,7 +138,7 @@ ProfileDocument& ProfileDocument::operator=(ProfileDocument&&) noexcept = defaul
 std::optional<std::string> ProfileDocument::value(const std::string& section,
                                                   const std::string& key) const {
     const char* const found = content_->ini.GetValue(section.c_str(), key.c_str());
-    return found != nullptr ? std::optional<std::string>(found) : std::nullopt;
+    return found != nullptr ? std::optional(unquoted(found)) : std::nullopt;
 }
 
 std::vector<std::string> ProfileDocument::sections() const {
@@ -122,10 +155,7 @@ std::vector<std::string> ProfileDocument::keys(const std::string& section) const
 
 void ProfileDocument::set(const std::string& section, const std::string& key,
                           const std::string& value) {
-    // Reading takes a pair of quotes off, so that one that belongs to the value needs another.
-    const bool quoted = value.size() > 1 && value.front() == '"' && value.back() == '"';
-    const std::string written = quoted ? '"' + value + '"' : value;
-    if (content_->ini.SetValue(section.c_str(), key.c_str(), written.c_str()) < 0) {
+    if (content_->ini.SetValue(section.c_str(), key.c_str(), quoted(value).c_str()) < 0) {
         throw IoError(G_IO_NO_MEMORY);
     }
 }

@@ -172,10 +172,13 @@ TEST_F(Jpeg, RefusesDamagedFiles) {
     folder.write("text.jpg", "not a picture");
     folder.write("empty.jpg", "");
     folder.write("header.jpg", good.substr(0, 30));
+    folder.write("tables.jpg", std::string("\xFF\xD8\xFF\xD9", 4));
     folder.write("short.jpg", good.substr(0, good.size() - 40));
     GJpegInfo info{};
     EXPECT_EQ(getInfo(u"text.jpg", 1, &info), G_IO_UNSUPPORTED);
     EXPECT_EQ(getInfo(u"empty.jpg", 1, &info), G_IO_UNSUPPORTED);
+    EXPECT_EQ(getInfo(u"tables.jpg", 1, &info), G_IO_DAMAGED);
+    EXPECT_EQ(load(u"tables.jpg", 1, surface.get()), G_IO_DAMAGED);
     EXPECT_EQ(load(u"header.jpg", 1, surface.get()), G_IO_DAMAGED);
     EXPECT_EQ(StartedPlatform::pixel(*surface.get(), 0, 0), 0U);
     EXPECT_EQ(load(u"short.jpg", 1, surface.get()), G_IO_DAMAGED);

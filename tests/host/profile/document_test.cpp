@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 namespace {
 
 using gpi::ProfileDocument;
@@ -130,6 +132,31 @@ TEST(ProfileDocument, RefusesBrokenText) {
     }
 }
 
+TEST(ProfileDocument, KeepsQuotesInsideQuotes) {
+    ProfileDocument document("[A]\nx = \"\"b\"\"\ny = \" c \"\n");
+    document.set("A", "z", "d");
+    const ProfileDocument again(document.bytes());
+    for (const ProfileDocument* read : {&std::as_const(document), &again}) {
+        EXPECT_EQ(read->value("A", "x"), "\"b\"");
+        EXPECT_EQ(read->value("A", "y"), " c ");
+    }
+}
+
+TEST(ProfileDocument, PassesOverSectionsWithoutTheirEnd) {
+    const ProfileDocument document("[A]\nx = 1\n [B\ny = 2\n[\nz = 3\n[C]\n");
+    EXPECT_EQ(document.sections(), (std::vector<std::string>{"A", "C"}));
+    EXPECT_EQ(document.keys("A"), (std::vector<std::string>{"x", "y", "z"}));
+    EXPECT_EQ(ProfileDocument(document.bytes()).bytes(), document.bytes());
+}
+
+TEST(ProfileDocument, TakesEveryKindOfLineEnd) {
+    const ProfileDocument document("[A]\rx = 1\r\ny = 2\n# one\r[B]\rz = 3\r; two");
+    EXPECT_EQ(document.sections(), (std::vector<std::string>{"A", "B"}));
+    EXPECT_EQ(document.keys("A"), (std::vector<std::string>{"x", "y"}));
+    EXPECT_EQ(document.value("B", "z"), "3");
+    EXPECT_EQ(ProfileDocument(document.bytes()).bytes(), document.bytes());
+}
+
 TEST(ProfileDocument, ReadsBackEveryNameAndValueThatItAdmits) {
     const std::string texts[] = {"a",    "a b", " a",    "a ",       "a=b",  "[a]", "a]",    ";a",
                                  "#a",   "a;b", "\"a\"", "a\"b",     "\"a",  "",    "a\nb",  "<<<x",
@@ -141,6 +168,7 @@ TEST(ProfileDocument, ReadsBackEveryNameAndValueThatItAdmits) {
             }
             ProfileDocument document(kText);
             document.set(name, name, value);
+            EXPECT_EQ(document.value(name, name), value) << name;
             const ProfileDocument read(document.bytes());
             EXPECT_EQ(read.value(name, name), value) << name;
             EXPECT_EQ(read.sections().size(), 3U) << name << " = " << value;
