@@ -6,18 +6,27 @@
 #include <quarlo/draw.h>
 
 namespace quarlo {
+namespace {
+
+/// Not inlined, so that its batch of spans does not lie on the stack below a wide arc.
+[[gnu::noinline]] void drawThinArc(const Canvas& canvas, const Ellipse& ellipse, const ArcSpan& arc,
+                                   uint32_t pixel, int32_t mode) {
+    SpanPainter painter(canvas, Paint::solid(pixel), mode);
+    ThinArc(ellipse, arc, ThinArc::Tips::Once).walk([&](RowRuns& runs, int32_t row) {
+        runs.paint(painter, row);
+    });
+}
+
+} // namespace
 
 void drawArc(const Canvas& canvas, const Ellipse& ellipse, const ArcSpan& arc, uint32_t pixel,
              int32_t mode) {
     if (isWide(canvas.handle)) {
         const Sector sector(ellipse, arc);
         drawWideOutline(canvas, ellipse, Sides::None, &sector, pixel, mode);
-        return;
+    } else {
+        drawThinArc(canvas, ellipse, arc, pixel, mode);
     }
-    SpanPainter painter(canvas, Paint::solid(pixel), mode);
-    ThinArc(ellipse, arc, ThinArc::Tips::Once).walk([&](RowRuns& runs, int32_t row) {
-        runs.paint(painter, row);
-    });
 }
 
 } // namespace quarlo

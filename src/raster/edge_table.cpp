@@ -30,6 +30,9 @@ const int16_t* columnsOf(const GPoint* run) {
 /// One digit of a radix sort: how many have each value, and then where the next of them belongs.
 class ColumnDigits {
   public:
+    /// Two such digits hold the columns of any usual surface, and take little of the stack.
+    static constexpr int kMostBits = 6;
+
     void count(uint32_t digit) { ++places_[digit]; }
 
     /// For digits of so many bits.
@@ -43,7 +46,7 @@ class ColumnDigits {
     uint16_t take(uint32_t digit) { return places_[digit]++; }
 
   private:
-    std::array<uint16_t, 256> places_{};
+    std::array<uint16_t, 1 << kMostBits> places_{};
 };
 
 /// An object, not a function, so that sorting compares in place.
@@ -160,33 +163,49 @@ bool EdgeTable::sortByInsertion(int64_t mostMoves) {
     return mostMoves >= 0;
 }
 
-/// A radix sort by two digits, the lower one first: as few bits each as the area's columns need.
-/// Columns beside the area all count as the one next to it.
+/// A radix sort by two digits, or four where the area is as wide as that: as few bits each as its
+/// columns need. Columns beside the area all count as the one next to it.
 void EdgeTable::sortByColumn() {
-    GEdge* const edges = state_.edges;
+    constexpr int kPairBits = 2 * ColumnDigits::kMostBits;
+    const GEdge* const edges = state_.edges;
     const int32_t first = std::max(area_.left - 1, INT16_MIN);
     const int32_t last = std::min(area_.right + 1, INT16_MAX);
-    const int bits = (std::bit_width(static_cast<uint32_t>(last - first)) + 1) / 2;
-    const uint32_t lowBits = (1U << bits) - 1;
     const auto columnOf = [=](uint32_t number) {
         return static_cast<uint32_t>(std::clamp(rounded(edges[number].x), first, last) - first);
     };
+    const auto lowOf = [=](uint32_t number) { return columnOf(number) % (1U << kPairBits); };
+    const auto highOf = [=](uint32_t number) { return columnOf(number) >> kPairBits; };
+    const int bits = std::bit_width(static_cast<uint32_t>(last - first));
+    if (bits <= kPairBits) {
+        sortByDigits((bits + 1) / 2, columnOf);
+    } else {
+        sortByDigits(kPairBits / 2, lowOf);
+        sortByDigits((bits - kPairBits + 1) / 2, highOf);
+    }
+}
+
+/// By two digits of so many bits, the lower one first. Edges that are equal in both keep their
+/// order.
+template <typename DigitsOf>
+void EdgeTable::sortByDigits(int bits, const DigitsOf& digitsOf) {
+    GEdge* const edges = state_.edges;
+    const uint32_t lowBits = (1U << bits) - 1;
     ColumnDigits low;
     ColumnDigits high;
     for (int32_t i = 0; i < active_; ++i) {
-        const uint32_t column = columnOf(edges[i].order);
-        low.count(column & lowBits);
-        high.count(column >> bits);
+        const uint32_t digits = digitsOf(edges[i].order);
+        low.count(digits & lowBits);
+        high.count(digits >> bits);
     }
     low.findPlaces(bits);
     high.findPlaces(bits);
     for (int32_t i = 0; i < active_; ++i) {
         const uint32_t number = edges[i].order;
-        edges[low.take(columnOf(number) & lowBits)].sorted = static_cast<uint16_t>(number);
+        edges[low.take(digitsOf(number) & lowBits)].sorted = static_cast<uint16_t>(number);
     }
     for (int32_t i = 0; i < active_; ++i) {
         const uint32_t number = edges[i].sorted;
-        edges[high.take(columnOf(number) >> bits)].order = number;
+        edges[high.take(digitsOf(number) >> bits)].order = number;
     }
 }
 

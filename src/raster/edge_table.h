@@ -153,6 +153,8 @@ class EdgeTable {
     void sortActive();
     bool sortByInsertion(int64_t mostMoves);
     void sortByColumn();
+    template <typename DigitsOf>
+    void sortByDigits(int bits, const DigitsOf& digitsOf);
 
     GPolygonState& state_; ///< the block and the first pending edge
     GRect area_;

@@ -305,7 +305,7 @@ Fill randomTangle(Random& random) {
 
 // The crossings of such edges are sorted by digits, whose size depends on the area's width.
 TEST_F(Polygon, PairsCrossingsOfEdgesThatChangePlaces) {
-    for (const int16_t right : std::initializer_list<int16_t>{5, 6, 57, 257, 4099, 5997}) {
+    for (const int16_t right : std::initializer_list<int16_t>{5, 6, 57, 257, 4098, 4099, 5997}) {
         const GRect area{5, 0, right, 11};
         forRandomCalls(12, 1, randomTangle, [&](const std::vector<Fill>& fills) -> std::string {
             std::vector<PaintedRun> runs;
