@@ -6,3 +6,5 @@ set(CMAKE_CXX_COMPILER g++)
 # The package that would make the system headers visible conflicts with the cross compilers.
 set(CMAKE_C_FLAGS_INIT "-m32 -isystem /usr/include/x86_64-linux-gnu")
 set(CMAKE_CXX_FLAGS_INIT "-m32 -isystem /usr/include/x86_64-linux-gnu")
+# An emulator that emulates nothing: without one the build would not run its own programs.
+set(CMAKE_CROSSCOMPILING_EMULATOR /usr/bin/env)
