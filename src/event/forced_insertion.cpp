@@ -34,8 +34,8 @@ Posting EventRing::force(const GEventMsg& event, bool unique) {
         line.add(slot.event);
         slot.inUse = false;
     }
-    if (i != write_ && unique && slots_[i].inUse && slots_[i].event.type == event.type &&
-        slots_[i].event.target == event.target) {
+    // Where the walk met an event of this type, it is for the same target.
+    if (i != write_ && unique && slots_[i].inUse && slots_[i].event.type == event.type) {
         return Posting::Pending;
     }
     line.add(event);

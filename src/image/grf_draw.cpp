@@ -158,7 +158,7 @@ GRect croppedBox(const GDrawHandle& handle, const GGrfImage& image, GRect box) {
 void draw(GDrawHandle* handle, const GGrfImage& image, const uint8_t* stream, const GRect& box) {
     const Canvas canvas(*handle);
     Placement place{{box.left, box.top}, box, false};
-    if (!isValid(canvas.area) || !clipTo(place.visible, canvas.area)) {
+    if (!clipTo(place.visible, canvas.area)) {
         return;
     }
     place.whole =

@@ -240,7 +240,7 @@ int32_t GDDrawGrfZoom(GDrawHandle* handle, const GGrfImage* image, const uint8_t
     mapToScreen(*handle, box);
     const Canvas canvas(*handle);
     GRect visible = box;
-    if (isReadable(*image) && isValid(canvas.area) && clipTo(visible, canvas.area)) {
+    if (isReadable(*image) && clipTo(visible, canvas.area)) {
         drawZoomed(canvas, *image, stream, box, visible);
     }
     return 1;

@@ -36,11 +36,9 @@ void paintAcross(const Canvas& canvas, const Ramp& ramp, int32_t start, int32_t 
     for (int32_t band = ramp.bandAt(left - start); left <= right; ++band) {
         const int32_t last = start + (band < 0 ? ramp.lead() - 1 : ramp.lastLine(band));
         const int32_t end = band >= ramp.bands() - 1 ? right : std::min(last, right);
-        if (left <= end) {
-            const GRect run{low16(left), low16(y), low16(end), low16(y)};
-            fillRect(canvas, run, ramp.color(std::max(band, 0)), canvas.handle.drawingMode);
-            left = end + 1;
-        }
+        const GRect run{low16(left), low16(y), low16(end), low16(y)};
+        fillRect(canvas, run, ramp.color(std::max(band, 0)), canvas.handle.drawingMode);
+        left = end + 1;
     }
 }
 

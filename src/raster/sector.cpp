@@ -117,9 +117,9 @@ bool Sector::holdsLevel(bool right) const {
 Sector::Parts Sector::levelParts() const {
     const auto centre = static_cast<int32_t>(floorDivide(doubledX_, 2));
     const bool between = doubledX_ % 2 != 0;
-    return {
-        {{holdsLevel(false) ? -kFar : centre + (between ? 1 : 0), holdsLevel(true) ? kFar : centre},
-         kNone}};
+    const int32_t left = holdsLevel(false) ? -kFar : centre + (between ? 1 : 0);
+    const int32_t right = holdsLevel(true) ? kFar : centre;
+    return {{{left, right}, kNone}};
 }
 
 } // namespace quarlo

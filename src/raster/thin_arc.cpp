@@ -20,13 +20,10 @@ ThinArc::Piece ThinArc::below(const ArcEnd& end, const Piece& piece) {
     return {piece.y < end.y ? piece.inner : end.x, piece.outer, piece.y};
 }
 
-/// Whether a piece lies on the axis before a quarter, together with more of the outline.
+/// Whether a piece lies on the upright axis before a quarter. On the level one no more than a pixel
+/// does.
 bool ThinArc::isTipOfPrevious(int32_t quadrant, const Piece& piece) const {
-    if (quadrant % 2 == 0) {
-        return ellipse_.topCentre == ellipse_.bottomCentre && piece.y == 0 &&
-               piece.inner < piece.outer;
-    }
-    return ellipse_.leftCentre == ellipse_.rightCentre && piece.outer == 0;
+    return quadrant % 2 != 0 && ellipse_.leftCentre == ellipse_.rightCentre && piece.outer == 0;
 }
 
 /// Angles grow towards the top in every other quarter.

@@ -15,7 +15,7 @@ void split(LineTable<Line>& lines, LineBuilder<Line>& builder, int32_t most, con
             builder.breakLine(units);
         }
     }
-    if (builder.line().glyphs > 0 && lines.count() < most) {
+    if (builder.line().glyphs > 0) { // none after the last line that there is room for
         lines.add(builder.line());
     }
 }

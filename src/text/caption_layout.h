@@ -41,6 +41,7 @@ inline int32_t breakAt(const char16_t* text) {
 template <typename Line>
 class LineTable {
   public:
+    /// @param lines at least one, and no more than pixel rows
     explicit LineTable(int32_t lines) : lines_(allocate(lines)) {}
     ~LineTable() {
         if (lines_ != nullptr) {
@@ -62,9 +63,7 @@ class LineTable {
   private:
     static Line* allocate(int32_t lines) {
         constexpr auto kSize = static_cast<int32_t>(sizeof(Line));
-        return lines > 0 && lines <= INT32_MAX / kSize
-                   ? static_cast<Line*>(allocateCleared(kLibrarySpace, lines * kSize))
-                   : nullptr;
+        return static_cast<Line*>(allocateCleared(kLibrarySpace, lines * kSize));
     }
 
     Line* lines_;

@@ -110,6 +110,13 @@ TEST_F(SetVram, AttachesAMemorySurface) {
     EXPECT_EQ(platform.count(3), 0U);
 }
 
+TEST_F(SetVram, AHandleWithoutASurfaceHasNoneToRelease) {
+    GDrawHandle blank{};
+    EXPECT_EQ(GDSetVram(&blank, 2, nullptr), 1);
+    EXPECT_EQ(blank.target, second.get());
+    EXPECT_EQ(platform.count(4), 0U);
+}
+
 TEST_F(SetVram, AttachesADeviceSurface) {
     GVram unread{};
     EXPECT_EQ(GDSetVram(handle.get(), 2, &unread), 1);

@@ -31,6 +31,22 @@ TEST_F(GrfZoom, RepeatsRowsAndColumns) {
                       {{'.', 0}, {'a', 1}, {'b', 2}, {'c', 3}, {'d', 4}}));
 }
 
+TEST_F(GrfZoom, StretchesOneRunOverHundredsOfColumns) {
+    for (const GrfThrough through : {GrfThrough::Kernels, GrfThrough::CopiedOps}) {
+        Drawing drawing(300, 1);
+        CopiedOps ops;
+        if (through == GrfThrough::CopiedOps) {
+            ops.attach(drawing);
+        }
+        zoom(drawing, 3, 1, {kLiteral | 3, 4, 5, 6, 0}, {0, 0, 299, 0});
+        for (int32_t x = 0; x < 300; ++x) {
+            // The run ends on the first column of its last value.
+            const uint32_t value = x < 100 ? 4 : (x < 200 ? 5 : (x == 200 ? 6 : 0));
+            ASSERT_EQ(pixelAt(*drawing.surface(), x, 0), value) << "column " << x;
+        }
+    }
+}
+
 TEST_F(GrfZoom, PrefersValuesThatAreNot0WhenItShrinks) {
     Drawing drawing(3, 1);
     zoom(drawing, 6, 1, {kLiteral | 6, 0, 5, 6, 7, 0, 0, 0}, {0, 0, 2, 0});

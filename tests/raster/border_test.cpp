@@ -109,6 +109,9 @@ TEST_F(Border, IsComputedOnePixelSmallerThanItIsDrawn) {
     GDCalcBorderRect(&rect, &inner, &outer, &border);
     expectRect(inner, 4, 4, 16, 16);
     expectRect(outer, 0, 0, 20, 20);
+    outer = {7, 7, 7, 7};
+    GDCalcBorderRect(&rect, nullptr, &outer, &border);
+    expectRect(outer, 0, 0, 20, 20);
 }
 
 TEST_F(Border, WithoutAFrameIsComputedWithoutItsInside) {

@@ -62,6 +62,14 @@ TEST_F(CanvasArea, IsEmptyWithoutMemoryClipRectangleOrSize) {
     EXPECT_EQ(areaOf(other), kNone);
 }
 
+TEST_F(CanvasArea, OfPixelsSmallerThanAByteHasNoneInNegativeRows) {
+    DeviceDrawing drawing(10, 8);
+    drawing.surface()->bitsPerPixel = 4;
+    EXPECT_EQ(areaOf(drawing), (Area{0, 0, 9, 7}));
+    drawing.surface()->bytesPerLine = -10;
+    EXPECT_EQ(areaOf(drawing), kNone);
+}
+
 TEST_F(CanvasArea, IsTheEntrysWhereAModeReachesAnotherFormat) {
     Drawing narrow(10, 8, 8);
     GDSetDrawingMode(narrow, 32);
@@ -76,6 +84,8 @@ TEST_F(CanvasArea, OfADeviceWithoutMemoryIsItsClipRectangle) {
     drawing.surface()->pixels = nullptr;
     drawing.surface()->bounds = {-3, -2, 30, 20};
     EXPECT_EQ(areaOf(drawing), (Area{-3, -2, 30, 20}));
+    drawing.surface()->bounds = {5, 0, 4, 20};
+    EXPECT_EQ(areaOf(drawing), kNone);
 }
 
 TEST_F(CanvasArea, OfAnotherFormatIsDrawnInThatFormat) {

@@ -92,6 +92,16 @@ TEST_F(Oval, NoticesItsPatternOnlyWhereItShows) {
     EXPECT_EQ(platform.count(69), 1U);
 }
 
+TEST_F(Oval, OfAPatternThatTheHandleHasNotIsNotFilled) {
+    Drawing drawing(20, 20);
+    fillWith(drawing, 0);
+    for (const int16_t pattern : {int16_t{G_FILL_PATTERN_COUNT}, int16_t{INT16_MAX}}) {
+        drawing->fillPattern = pattern;
+        drawOval(drawing, {2, 2, 15, 15});
+    }
+    EXPECT_TRUE(pixelsOf(*drawing.surface()).empty());
+}
+
 TEST_F(Oval, IsMappedLikeARectangle) {
     Drawing moved(20, 20);
     const GPoint origin{100, -50};

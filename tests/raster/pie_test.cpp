@@ -228,6 +228,18 @@ TEST_F(Pie, IsFilledInEveryStyle) {
     EXPECT_EQ(platform.count(69), size_t{G_FILL_PATTERN_COUNT});
 }
 
+TEST_F(Pie, OfAPatternThatTheHandleHasNotIsNotFilled) {
+    Drawing drawing(41, 41);
+    GDSetPenColor(drawing, G_NO_COLOR);
+    GDSetFillColor(drawing, 3, 5);
+    for (const int16_t pattern : {int16_t{G_FILL_PATTERN_COUNT}, int16_t{INT16_MAX}}) {
+        drawing->fillPattern = pattern;
+        drawPie(drawing, {0, 0, 40, 40}, 0, 900);
+    }
+    EXPECT_TRUE(pixelsOf(*drawing.surface()).empty());
+    EXPECT_EQ(platform.count(69), 0U);
+}
+
 TEST_F(Pie, LeavesItsEndsInTheHandle) {
     Drawing drawing(60, 60);
     const GPoint origin{7, 9};

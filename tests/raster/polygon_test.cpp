@@ -4,6 +4,7 @@
 #include "raster/polygon_model.h"
 #include "support/random_calls.h"
 
+#include <algorithm>
 #include <array>
 #include <vector>
 
@@ -138,6 +139,34 @@ TEST_F(Polygon, NoticesItsPatternOnlyWhereSomethingShows) {
     EXPECT_EQ(platform.count(69), 1U);
 }
 
+TEST_F(Polygon, NoticesNoPatternWhereTheClipRectangleIsInverted) {
+    Drawing drawing(9, 9);
+    fillOnly(drawing);
+    GDSetFillPattern(drawing, 16);
+    drawing.surface()->bounds = {0, 0, -1, -1};
+    draw(drawing, {{-5, -5}, {8, -5}, {4, 8}});
+    EXPECT_EQ(platform.count(69), 0U);
+}
+
+TEST_F(Polygon, OfOnePointDrawsNothing) {
+    Drawing drawing(4, 3);
+    GDSetFillAttribute(drawing, G_FILL_FORE, 1, 2);
+    draw(drawing, {{2, 1}});
+    EXPECT_TRUE(shows(*drawing.surface(), {"....", "....", "...."}));
+}
+
+TEST_F(Polygon, OfAPatternBelowSolidIsNotFilled) {
+    Drawing drawing(9, 9);
+    GPoint corners[] = {{0, 0}, {8, 0}, {8, 8}, {0, 8}};
+    const Canvas canvas(*drawing);
+    for (const int32_t pattern : {kSolidPattern - 1, INT32_MIN}) {
+        GDFillPolygon(canvas, {4, corners, {}}, 1, 1, pattern, G_MODE_COPY);
+        EXPECT_EQ(pixelAt(*drawing.surface(), 4, 4), 0U);
+    }
+    GDFillPolygon(canvas, {4, corners, {}}, 1, 1, kSolidPattern, G_MODE_COPY);
+    EXPECT_EQ(pixelAt(*drawing.surface(), 4, 4), 1U);
+}
+
 TEST_F(Polygon, WithAGradationIsNotFilled) {
     Drawing drawing(9, 9);
     fillOnly(drawing);
@@ -192,6 +221,19 @@ TEST_F(Polygon, ReadsATableOnlyBetweenItsEnds) {
         GDDrawPoly(drawing, &poly);
         EXPECT_TRUE(shows(*drawing.surface(), {"..#####..", "..#####..", "..#####.."}));
     }
+}
+
+TEST_F(Polygon, IgnoresATableOutOfSight) {
+    Drawing drawing(9, 3);
+    fillOnly(drawing);
+    for (const int16_t top : {int16_t{-9}, int16_t{3}}) {
+        const auto bottom = static_cast<int16_t>(top + 4);
+        TableEdge edge{{{{2, top}, {}, {}, {2, bottom}, {6, bottom}, {6, top}}}, {2, 2, 2, 2, 2}};
+        ASSERT_EQ(GDSetTableEdge(edge.points.data(), edge.columns.data(), 0), 1);
+        GPoly poly{6, edge.points.data(), {}};
+        GDDrawPoly(drawing, &poly);
+    }
+    EXPECT_TRUE(shows(*drawing.surface(), {".........", ".........", "........."}));
 }
 
 TEST_F(Polygon, TakesAMarkerTooNearTheEndForACoordinate) {
@@ -321,6 +363,23 @@ TEST_F(Polygon, PairsCrossingsOfEdgesThatChangePlaces) {
             return runs == expected ? "" : "other runs";
         });
     }
+}
+
+TEST_F(Polygon, PairsTheFewEdgesBelowATangle) {
+    // Sixty lines through one point, and two of them run on alone.
+    Fill fill{{}, -1, 0};
+    for (int16_t i = 0; i < 60; ++i) {
+        const int bottom = i == 30 ? 18 : 9;
+        fill.points.push_back({static_cast<int16_t>(4 * i), 0});
+        fill.points.push_back({static_cast<int16_t>(4 * (59 - i)), static_cast<int16_t>(bottom)});
+    }
+    Drawing drawing(240, 20);
+    GuardedSurface expected(240, 20, 8);
+    GDSetPenColor(drawing, G_NO_COLOR);
+    GDSetFillAttribute(drawing, G_FILL_FORE, 0x5A3C69, 0);
+    draw(drawing, fill.points);
+    fillByModel(expected, *drawing.operator->(), fill, {0, 0, 239, 19});
+    EXPECT_TRUE(samePicture(pictureOf(*drawing.surface()), pictureOf(*expected)));
 }
 
 TEST_F(Polygon, OfManyPointsTakesReasonableTime) {

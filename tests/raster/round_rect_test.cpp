@@ -65,6 +65,18 @@ TEST_F(RoundRect, WithAGradationIsNotFilled) {
     EXPECT_EQ(platform.count(69), 0U);
 }
 
+TEST_F(RoundRect, OfAPatternThatTheHandleHasNotIsNotFilled) {
+    Drawing drawing(20, 20);
+    GDSetPenColor(drawing, G_NO_COLOR);
+    GDSetFillColor(drawing, 1, 2);
+    for (const int16_t pattern : {int16_t{G_FILL_PATTERN_COUNT}, int16_t{INT16_MAX}}) {
+        drawing->fillPattern = pattern;
+        drawRoundRect(drawing, {2, 2, 17, 17}, 4, 4);
+    }
+    EXPECT_TRUE(pixelsOf(*drawing.surface()).empty());
+    EXPECT_EQ(platform.count(69), 0U);
+}
+
 TEST_F(RoundRect, OutsideTheClipDrawsNothingWhateverThePen) {
     Drawing drawing(20, 20);
     GDSetPenSize(drawing, 9, 9);

@@ -39,6 +39,18 @@ TEST_F(CaptionCursor, OnEmptyTextIsShownAlone) {
     }
 }
 
+TEST_F(CaptionCursor, WithoutTextIsNotShown) {
+    ScriptedFont font(platform);
+    Drawing drawing(60, 20);
+    GDSetFont(drawing, font.get());
+    const GRect rect{10, 2, 49, 18};
+    const GCaptionCursor cursor{G_CURSOR_BLOCK, 5};
+    GDDrawCaptionCursorString(drawing, &rect, &kPlain, &cursor, 0, nullptr);
+    EXPECT_EQ(pixelAt(*drawing.surface(), 10, 2), 0U);
+    GDDrawCaptionCursorString(drawing, &rect, &kPlain, &cursor, 0, u"");
+    EXPECT_EQ(pixelAt(*drawing.surface(), 10, 2), 5U);
+}
+
 TEST_F(CaptionCursor, BeyondTheRightEdgeScrollsTheLine) {
     ScriptedFont font(platform);
     Drawing drawing(60, 20);

@@ -50,6 +50,8 @@ class ErrorMessage : public RasterTest {
     uint32_t penPixel = 0;
     uint32_t backPixel = 0;
 
+    GuardedSurface& screen() { return screen_; }
+
   private:
     GuardedSurface screen_{900, 720, 16};
 };
@@ -72,9 +74,10 @@ TEST_F(ErrorMessage, StandsAtAnotherPlaceOfAnyOtherDisplay) {
         const char16_t* width;
         const char16_t* height;
         bool panel;
-    } cases[] = {{u"800", u"600", false},       {u"640", u"480", true}, {u" 640px", u"+480", true},
-                 {u"640", u"481", false},       {u"", u"480", false},   {u"-640", u"480", false},
-                 {u"4294967936", u"480", false}};
+    } cases[] = {{u"800", u"600", false},        {u"640", u"480", true},
+                 {u" 640px", u"+480", true},     {u"640", u"481", false},
+                 {u"", u"480", false},           {u"-640", u"480", false},
+                 {u"4294967936", u"480", false}, {u"\t640", u" \t480", true}};
     for (const auto& known : cases) {
         profile = {{u"WIDTH", known.width}, {u"HEIGHT", known.height}};
         GDDrawErrorMessage("x");
@@ -115,6 +118,29 @@ TEST_F(ErrorMessage, GivesItsSurfaceBack) {
     }
     EXPECT_EQ(platform.count(21), 3U);
     EXPECT_EQ(platform.count(4), 3U);
+}
+
+TEST_F(ErrorMessage, LeavesASurfaceThatIsNotTheDevices) {
+    screen()->id = G_MEMORY_SURFACE;
+    GDDrawErrorMessage("x");
+    EXPECT_EQ(shown, u"x");
+    EXPECT_EQ(platform.count(4), 0U);
+}
+
+TEST_F(ErrorMessage, OpensTheClipRectangleOfTheDisplay) {
+    screen()->bounds = {400, 400, 401, 401};
+    GDDrawErrorMessage("x");
+    EXPECT_EQ(clip.left, 270);
+    EXPECT_EQ(clip.right, 640);
+    EXPECT_EQ(screen()->bounds.right, 899);
+    EXPECT_EQ(screen()->bounds.bottom, 719);
+}
+
+TEST_F(ErrorMessage, OnADisplayWithoutClipRectangleDrawsNothing) {
+    screen()->drawable = nullptr;
+    GDDrawErrorMessage("x");
+    EXPECT_EQ(shown, u"");
+    EXPECT_EQ(platform.count(4), 1U);
 }
 
 TEST_F(ErrorMessage, IsCutTo127Units) {

@@ -3,6 +3,7 @@
 
 #include <cstring>
 #include <string>
+#include <utility>
 #include <vector>
 
 using namespace quarlo::test;
@@ -182,6 +183,34 @@ TEST_F(HostileFont, APlaceBehindTheTextEndsIt) {
         scale.magnifyX = 1;
         EXPECT_TRUE(drawing.surface().memory().intact());
     }
+}
+
+TEST_F(HostileFont, FewerGlyphsThanWereMeasuredEndTheLine) {
+    int64_t drawn = 0;
+    platform.serve<20>([&drawn](GFontRecord*, GGlyphRequest* request) {
+        const bool draws = request->metricsOnly == 0;
+        drawn += draws ? 1 : 0;
+        EXPECT_NE(*request->text, u'\0');
+        request->next = request->text + (draws ? 3 : 1);
+        request->width = 5;
+        request->height = 9;
+        request->bitsPerPixel = 1;
+        request->bits = nullptr;
+        return 1;
+    });
+    platform.remove({75, 76});
+    GetGPIFunction();
+    Drawing drawing(40, 20);
+    GDSetFont(drawing, &font);
+    const GRect box{0, 0, 39, 19};
+    const GCaptionAttr attr{1, G_ALIGN_LEFT, G_ALIGN_TOP, 0, 0, 0, 0};
+    const GCaptionCursor cursor{G_CURSOR_BAR, 3};
+    GDDrawCaptionString(drawing, &box, &attr, u"xxxx");
+    EXPECT_EQ(std::exchange(drawn, 0), 2);
+    GDDrawCaptionScrollString(drawing, &box, &attr, u"xxxx", 0, 0);
+    EXPECT_EQ(std::exchange(drawn, 0), 2);
+    GDDrawCaptionCursorString(drawing, &box, &attr, &cursor, 0, u"xxxx");
+    EXPECT_EQ(std::exchange(drawn, 0), 2);
 }
 
 TEST_F(HostileFont, EveryCallTakesTimeInProportionToItsText) {
