@@ -16,14 +16,14 @@ static_assert(kStartupCount == 143);
 
 using Requests = std::array<int16_t, kStartupCount>;
 
-constexpr void exchange(Requests& requests, int16_t a, int16_t b) {
+consteval void exchange(Requests& requests, int16_t a, int16_t b) {
     auto* const first = std::find(requests.begin(), requests.end(), a);
     auto* const second = std::find(requests.begin(), requests.end(), b);
     std::swap(*first, *second);
 }
 
 /// The order in which platforms are asked: slot order, but for two pairs that trade places.
-constexpr Requests startupRequests() {
+consteval Requests startupRequests() {
     Requests requests{};
     size_t count = 0;
     for (const ServiceRun& run : kServiceRuns) {

@@ -29,7 +29,7 @@ inline constexpr ServiceRun kServiceRuns[] = {
     {67, 124}, {129, 137}, {200, 207},
 };
 
-constexpr size_t countServices(bool startupOnly) {
+consteval size_t countServices(bool startupOnly) {
     size_t count = 0;
     for (const ServiceRun& run : kServiceRuns) {
         if (!startupOnly || run.binding == Binding::AtStartup) {

@@ -1,4 +1,6 @@
 // Windows dispatches its own messages and knows the code page of its own 8-bit text.
+//
+// not counted: Windows alone; tests/platform/system_windows_test.cpp
 #include "platform/system.h"
 
 #include <windows.h>

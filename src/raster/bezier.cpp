@@ -17,14 +17,14 @@ constexpr int32_t kSteps = 63;
 using Weights = std::array<uint16_t, 4>;
 
 /// A Bernstein weight as a 16-bit fraction: floor(numerator / 63^3 x 65536), at most 65535.
-constexpr uint16_t weight(int64_t numerator) {
+consteval uint16_t weight(int64_t numerator) {
     constexpr int64_t kCube = int64_t{kSteps} * kSteps * kSteps;
     return static_cast<uint16_t>(std::min<int64_t>(numerator * 65536 / kCube, 65535));
 }
 
 /// The cubic Bernstein weights for t = row / 63. Two of them are one larger than the rule gives,
 /// and stay so: curves have always been drawn with them.
-constexpr std::array<Weights, kSteps + 1> weightTable() {
+consteval std::array<Weights, kSteps + 1> weightTable() {
     std::array<Weights, kSteps + 1> table{};
     for (int64_t t = 0; t <= kSteps; ++t) {
         const int64_t s = kSteps - t;

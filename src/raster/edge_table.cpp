@@ -15,7 +15,7 @@ namespace {
 /// The columns of a table edge, whose third point holds a reference to them: the pointer itself,
 /// or, where that does not fit, the distance from the point.
 const int16_t* columnsOf(const GPoint* run) {
-    if constexpr (sizeof(void*) == sizeof(GPoint)) {
+    if constexpr (sizeof(void*) == sizeof(GPoint)) { // not counted: 32-bit machines
         const int16_t* columns;
         std::memcpy(&columns, &run[2], sizeof columns);
         return columns;

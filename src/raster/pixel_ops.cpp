@@ -69,7 +69,7 @@ uint32_t readPixelAt(GDrawHandle*, GVram* surface, int16_t x, int16_t y) {
 }
 
 template <typename Format, typename Mode, typename NextMode = Mode>
-constexpr MemoryEntry memoryEntry() {
+consteval MemoryEntry memoryEntry() {
     GPixelOps ops{};
     ops.setPixel = setPixel<Format, Mode>;
     ops.span = span<Format, Mode>;
