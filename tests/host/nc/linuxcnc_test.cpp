@@ -1,14 +1,10 @@
 // The services in front of the real LinuxCNC, which runs in simulation for the time of the tests.
+#include "linuxcnc.h"
 #include "panel.h"
-
-#include <fcntl.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <cmath>
 #include <filesystem>
-#include <fstream>
 #include <memory>
 #include <set>
 
@@ -18,43 +14,6 @@ namespace {
 using gpi::test::Environment;
 using gpi::test::StartedPlatform;
 using gpi::test::TemporaryFolder;
-
-/// A LinuxCNC of the test's own.
-class LinuxCnc {
-  public:
-    explicit LinuxCnc(const std::string& folder) : folder_(folder) {
-        process_ = fork();
-        if (process_ == 0) {
-            const int nowhere = open("/dev/null", O_RDWR | O_CLOEXEC);
-            const int log =
-                open((folder + "/log").c_str(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0600);
-            dup2(nowhere, STDIN_FILENO);
-            dup2(log, STDOUT_FILENO);
-            dup2(log, STDERR_FILENO);
-            execl(RUN_LINUXCNC, RUN_LINUXCNC, folder.c_str(), nullptr);
-            _exit(127);
-        }
-    }
-    ~LinuxCnc() {
-        close(open((folder_ + "/stop").c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0644));
-        waitpid(process_, nullptr, 0);
-    }
-
-    /// What it says.
-    std::string log() const {
-        std::ifstream file(folder_ + "/log");
-        return {std::istreambuf_iterator<char>(file), {}};
-    }
-
-    static bool installed() {
-        return std::filesystem::exists("/usr/bin/linuxcnc") &&
-               std::filesystem::exists("/usr/share/doc/linuxcnc/examples");
-    }
-
-  private:
-    std::string folder_;
-    pid_t process_;
-};
 
 /// One control and one platform for all tests.
 class LinuxCncServices : public testing::Test {

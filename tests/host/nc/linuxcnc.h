@@ -1,0 +1,30 @@
+// A LinuxCNC for the time of a test.
+#pragma once
+
+#include <sys/types.h>
+
+#include <string>
+
+namespace gpi::nc::test {
+
+/// Runs LinuxCNC in simulation. There is one at a time on a computer.
+class LinuxCnc {
+  public:
+    static bool installed();
+
+    /// @param folder of its own; its part programs lie there, and its HOME is `home` below it
+    explicit LinuxCnc(std::string folder);
+    /// Ends it.
+    ~LinuxCnc();
+    LinuxCnc(const LinuxCnc&) = delete;
+    LinuxCnc& operator=(const LinuxCnc&) = delete;
+
+    /// What it says.
+    std::string log() const;
+
+  private:
+    std::string folder_;
+    pid_t process_;
+};
+
+} // namespace gpi::nc::test
