@@ -65,8 +65,6 @@ class Panel {
     void showKeys(bool functions);
     void choose(size_t language);
     void startJog(double direction);
-    void changeOverride(int32_t number, double change);
-    void toggle(int32_t systemValue, bool on);
 
     void readMachine();
     void tickSecond();

@@ -3,15 +3,14 @@
 
 #include "text/format.h"
 
-#include <algorithm>
-#include <cmath>
 #include <utility>
 
 namespace panel {
 namespace {
 
-constexpr double kOverrideStep = 10.0; // percent
-constexpr double kMostOverride = 200.0;
+// Numbers of overrides.
+constexpr int32_t kFeed = 0;
+constexpr int32_t kSpindle = 2;
 
 constexpr char16_t kProfile[] = u"panel.ini";
 constexpr char16_t kProfileSection[] = u"Panel";
@@ -32,7 +31,6 @@ size_t keptLanguage() {
 }
 
 void Panel::act(Action action) {
-    const Snapshot& now = context_.now;
     OrderQueue& orders = context_.orders;
     if (action == held_ || screen_->act(action)) {
         return; // nothing, a key that repeats, or the screen's own
@@ -42,7 +40,7 @@ void Panel::act(Action action) {
         showKeys(!showsFunctions_);
         break;
     case Action::CycleStart:
-        orders.give(startCycle(now));
+        orders.give(startCycle(context_.now));
         break;
     case Action::FeedHold:
         orders.give(command(G_NC_COMMAND_HOLD));
@@ -66,16 +64,16 @@ void Panel::act(Action action) {
         orders.give({setSystem(G_NC_SYSTEM_MODE, G_NC_MODE_AUTO)});
         break;
     case Action::SingleBlock:
-        toggle(G_NC_SYSTEM_SINGLE_BLOCK, now.singleBlock);
+        orders.give({turnOver(G_NC_SYSTEM_SINGLE_BLOCK)});
         break;
     case Action::BlockSkip:
-        toggle(G_NC_SYSTEM_BLOCK_SKIP, now.blockSkip);
+        orders.give({turnOver(G_NC_SYSTEM_BLOCK_SKIP)});
         break;
     case Action::OptionalStop:
-        toggle(G_NC_SYSTEM_OPTIONAL_STOP, now.optionalStop);
+        orders.give({turnOver(G_NC_SYSTEM_OPTIONAL_STOP)});
         break;
     case Action::DryRun:
-        toggle(G_NC_SYSTEM_DRY_RUN, now.dryRun);
+        orders.give({turnOver(G_NC_SYSTEM_DRY_RUN)});
         break;
     case Action::NextAxis:
         context_.axis = static_cast<Axis>((context_.axis + 1) % kAxes);
@@ -92,16 +90,16 @@ void Panel::act(Action action) {
         startJog(-1.0);
         break;
     case Action::FeedUp:
-        changeOverride(0, kOverrideStep);
+        orders.give({stepOverride(kFeed, true)});
         break;
     case Action::FeedDown:
-        changeOverride(0, -kOverrideStep);
+        orders.give({stepOverride(kFeed, false)});
         break;
     case Action::SpindleUp:
-        changeOverride(2, kOverrideStep);
+        orders.give({stepOverride(kSpindle, true)});
         break;
     case Action::SpindleDown:
-        changeOverride(2, -kOverrideStep);
+        orders.give({stepOverride(kSpindle, false)});
         break;
     case Action::ShowDamage:
         context_.showDamage = !context_.showDamage;
@@ -134,7 +132,7 @@ bool Panel::isOn(Action action) const {
     const Snapshot& now = context_.now;
     switch (action) {
     case Action::CycleStart:
-        return now.online && now.state == G_NC_STATE_RUNNING;
+        return now.online && now.state == G_NC_STATE_RUNNING && now.mode != G_NC_MODE_MANUAL;
     case Action::FeedHold:
         return now.online && now.state == G_NC_STATE_HELD;
     case Action::SingleBlock:
@@ -172,17 +170,6 @@ void Panel::startJog(double direction) {
                                     : jogStep(context_.axis, direction * step);
     orders.insert(orders.end(), move.begin(), move.end());
     context_.orders.give(std::move(orders));
-}
-
-void Panel::changeOverride(int32_t number, double change) {
-    const double now = context_.now.overrides[static_cast<size_t>(number)];
-    const double next =
-        std::clamp(std::round(now / kOverrideStep) * kOverrideStep + change, 0.0, kMostOverride);
-    context_.orders.give({setValue(G_NC_OVERRIDE, number, 0, next)});
-}
-
-void Panel::toggle(int32_t systemValue, bool on) {
-    context_.orders.give({setSystem(systemValue, on ? 0 : 1)});
 }
 
 } // namespace panel

@@ -71,7 +71,9 @@ TEST(EditField, TypesWhatShiftMakesOfAKey) {
     EXPECT_TRUE(field.key('3', true));
     EXPECT_EQ(field.text(), u"#");
     EXPECT_FALSE(field.key(GPI_KEY_F1, false));
-    EXPECT_FALSE(field.key('3' + 1, true)) << "nothing that programs are written with";
+    EXPECT_TRUE(field.key('4', true)) << "nothing that programs are written with, but no command";
+    EXPECT_TRUE(field.key('S', true));
+    EXPECT_EQ(field.text(), u"#S");
 }
 
 } // namespace

@@ -55,6 +55,18 @@ TEST(Machine, StopsInAnEmergencyAndIsReleasedByPower) {
     EXPECT_TRUE(bench.machine().power);
 }
 
+TEST(Machine, StopsInAnEmergencyWhileABlockIsTyped) {
+    Bench bench;
+    bench.run(std::string(kMakeReady) +
+              "key F10\nkey F5\ntype G1 S2\ndown Shift\ntype S\nup Shift");
+    EXPECT_EQ(bench.machine().state, G_NC_STATE_IDLE) << "letters are no commands there";
+    EXPECT_EQ(bench.context().message, nullptr);
+    bench.run("key Pause\nwait 300");
+    EXPECT_TRUE(bench.machine().emergency);
+    bench.run("key Esc");
+    EXPECT_EQ(std::u16string_view(bench.panel().screen().title()), u"Start");
+}
+
 TEST(Machine, SaysWhyItDoesNotObey) {
     Bench bench;
     bench.run("key S\nwait 300");
@@ -119,6 +131,25 @@ TEST(OrderQueue, TellsTheMainLoopFromItsThread) {
     int32_t power = 0;
     GNCDataGetSystemVal(G_NC_SYSTEM_POWER, &power);
     EXPECT_EQ(power, 1) << "nothing is given after what was refused";
+}
+
+TEST(OrderQueue, TakesKeysThatComeFasterThanTheMachine) {
+    const Bench bench;
+    {
+        OrderQueue orders(false);
+        for (int i = 0; i < 3; ++i) {
+            orders.give({stepOverride(0, true), turnOver(G_NC_SYSTEM_SINGLE_BLOCK)});
+        }
+        GEventMsg event{};
+        for (int i = 0; i < 3; ++i) {
+            ASSERT_EQ(GEGetEvent(&event, 10'000), 1);
+            EXPECT_EQ(static_cast<int32_t>(event.param1), 1);
+        }
+    }
+    EXPECT_EQ(readValue(G_NC_OVERRIDE, 0, 0), 130.0);
+    int32_t on = 0;
+    GNCDataGetSystemVal(G_NC_SYSTEM_SINGLE_BLOCK, &on);
+    EXPECT_EQ(on, 1);
 }
 
 } // namespace

@@ -106,7 +106,9 @@ char characterOf(const Stroke& stroke) {
     if (stroke.key >= GPI_KEY_PAD_0 && stroke.key <= GPI_KEY_PAD_9) {
         return static_cast<char>('0' + stroke.key - GPI_KEY_PAD_0);
     }
-    return isPlain(stroke.key) && !stroke.shifted ? static_cast<char>(stroke.key) : '\0';
+    const bool letter = stroke.key >= 'A' && stroke.key <= 'Z';
+    const bool digit = stroke.key >= '0' && stroke.key <= '9' && !stroke.shifted;
+    return letter || digit ? static_cast<char>(stroke.key) : '\0';
 }
 
 } // namespace panel

@@ -1,16 +1,42 @@
 #include "machine/order.h"
 
+#include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace panel {
 namespace {
 
+constexpr double kOverrideStep = 10.0; // percent
+constexpr double kMostOverride = 200.0;
+
+int32_t turn(int32_t number) {
+    int32_t on = 0;
+    const int32_t result = GNCDataGetSystemVal(number, &on);
+    return result == 1 ? GNCDataSetSystemVal(number, on == 0 ? 1 : 0) : result;
+}
+
+int32_t changeOverride(int32_t number, double change) {
+    double percent = 0.0;
+    const int32_t result = GNCDataGetGNCValue(kChannel, G_NC_OVERRIDE, number, 0, &percent);
+    if (result != 1) {
+        return result;
+    }
+    percent = std::round(percent / kOverrideStep) * kOverrideStep + change;
+    percent = std::clamp(percent, 0.0, kMostOverride);
+    return GNCDataSetGNCValue(kChannel, G_NC_OVERRIDE, number, 0, &percent);
+}
+
 int32_t carryOut(const Order& order) {
     switch (order.kind) {
     case Order::Kind::System:
         return GNCDataSetSystemVal(order.item, static_cast<int32_t>(order.value));
+    case Order::Kind::Turn:
+        return turn(order.item);
     case Order::Kind::Value:
         return GNCDataSetGNCValue(kChannel, order.item, order.number, order.index, &order.value);
+    case Order::Kind::Override:
+        return changeOverride(order.number, order.value);
     case Order::Kind::Text:
         return GNCDataSetString(kChannel, order.item, order.number, order.text.c_str());
     }
@@ -21,6 +47,14 @@ int32_t carryOut(const Order& order) {
 
 Order setSystem(int32_t number, int32_t value) {
     return {Order::Kind::System, number, 0, 0, static_cast<double>(value), {}};
+}
+
+Order turnOver(int32_t number) {
+    return {Order::Kind::Turn, number, 0, 0, 0.0, {}};
+}
+
+Order stepOverride(int32_t number, bool up) {
+    return {Order::Kind::Override, 0, number, 0, up ? kOverrideStep : -kOverrideStep, {}};
 }
 
 Order setValue(int32_t area, int32_t number, int32_t index, double value) {

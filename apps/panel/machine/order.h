@@ -9,15 +9,16 @@
 
 namespace panel {
 
-/// One writing call to the control.
+/// One thing that the control is told. What depends on the value that it has by then, a switch that
+/// turns over or an override that goes up, is worked out when it is told: keys may come faster.
 struct Order {
-    enum class Kind : uint8_t { System, Value, Text };
+    enum class Kind : uint8_t { System, Turn, Value, Override, Text };
 
     Kind kind;
     int32_t item;   ///< system value, area or string
     int32_t number; ///< of a value
     int32_t index;  ///< likewise
-    double value;
+    double value;   ///< or by how much it changes
     std::u16string text;
 };
 
@@ -25,6 +26,11 @@ struct Order {
 using Orders = std::vector<Order>;
 
 Order setSystem(int32_t number, int32_t value);
+/// Turns a switch on that is off, and off when it is on.
+Order turnOver(int32_t number);
+/// Moves an override to the next step up or down.
+/// @param number 0 feed, 1 rapid, 2 spindle
+Order stepOverride(int32_t number, bool up);
 Order setValue(int32_t area, int32_t number, int32_t index, double value);
 Order setText(int32_t string, std::u16string text);
 

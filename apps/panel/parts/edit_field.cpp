@@ -45,7 +45,7 @@ bool EditField::key(int32_t key, bool shifted) {
     }
     const char character = characterOf({key, shifted});
     if (character == '\0') {
-        return false;
+        return characterOf({key, false}) != '\0'; // Shift makes no command of it
     }
     eraseSelection();
     insert(static_cast<char16_t>(character));

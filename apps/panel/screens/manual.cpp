@@ -35,7 +35,7 @@ class ManualScreen : public Screen {
     void pointer(PointerAction action, GPoint at) override;
 
   private:
-    void type(int32_t key, bool shifted);
+    bool type(int32_t key, bool shifted);
     void run();
     void changed() { context_.damage.add(line_); }
 
@@ -91,19 +91,20 @@ bool ManualScreen::act(Action action) {
 }
 
 bool ManualScreen::key(int32_t key) {
-    type(key, context_.shifted);
-    return key < GPI_KEY_F1 || key > GPI_KEY_F24; // letters are no commands here
+    return type(key, context_.shifted);
 }
 
-void ManualScreen::type(int32_t key, bool shifted) {
+/// @return whether the key is one of the field: letters are no commands here
+bool ManualScreen::type(int32_t key, bool shifted) {
     if (key == GPI_KEY_ENTER) {
         run();
     } else if (key == GPI_KEY_UP && !blocks_.empty()) {
         field_.begin(blocks_.front());
-    } else {
-        field_.key(key, shifted);
+    } else if (!field_.key(key, shifted)) {
+        return false;
     }
     changed();
+    return true;
 }
 
 /// The block stays, selected: it can be run once more, and goes with the next that is typed.
