@@ -1,6 +1,10 @@
 #include "support/recording_platform.h"
 
+#include <quarlo/clip.h>
+#include <quarlo/event.h>
+#include <quarlo/handle.h>
 #include <quarlo/platform.h>
+#include <quarlo/timer.h>
 
 #include <gtest/gtest.h>
 
@@ -74,6 +78,26 @@ TEST(GDQuitPlatform, KeepsTheServicesBound) {
     GDInitPlatform(1);
     EXPECT_EQ(platform.count(1), 1U);
     EXPECT_TRUE(platform.requests.empty());
+}
+
+TEST(Start, TakesNoMemoryBeforeTheFirstDrawHandle) {
+    RecordingPlatform platform;
+    platform.unbind();
+    GetGPIFunction();
+    GDInitPlatform(1);
+    GDInitBackupClipBuf();
+    ASSERT_EQ(GEInitEvent(), 1);
+    ASSERT_EQ(GESetTimer(1, 2, 0), 1);
+    GECheckTimer();
+    GEventMsg event;
+    ASSERT_EQ(GEGetEvent(&event, 0), 1);
+    GEKillTimer(1, 2);
+    EXPECT_EQ(platform.count(41) + platform.count(66), 0U);
+
+    GDrawHandle* const handle = GDOpenDrawHandle(0, 0);
+    EXPECT_EQ(platform.callsOf(41), std::vector{call(41, 1, 0, sizeof(GDrawHandle))});
+    GDCloseDrawHandle(handle);
+    GEQuitEvent();
 }
 
 } // namespace
