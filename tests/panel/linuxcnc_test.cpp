@@ -396,6 +396,7 @@ TEST_F(PanelBeforeLinuxCnc, StopsInAnEmergency) {
     EXPECT_TRUE(isIn(G_NC_STATE_OFF));
     person->let("PadAdd");
     ASSERT_TRUE(person->until([&] { return person->context().now.emergency; }));
+    EXPECT_EQ(value(G_NC_FEED), 0.0);
     EXPECT_GT(count(person->picture("emergency"), status(), Ink::Fault), 0);
 }
 
