@@ -108,6 +108,9 @@ Panel::Panel(const PanelOptions& options)
       keys_(context_, stripsOf(context_.painter).keys,
             [this](Action action) { return isOn(action); }) {
     context_.work = stripsOf(context_.painter).work;
+    if (options_.scripted) {
+        GMSetMemoryMode(G_MEMORY_CHECKED); // what is used before it is written shows in pictures
+    }
     GEInitEvent();
     GPIHostSetMessageHandler(onMessage, this);
     GESetTimer(kPanel, SecondTimer, kSecond);

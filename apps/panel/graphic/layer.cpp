@@ -19,6 +19,7 @@ GVram* surfaceLike(const GVram& display, GSize size) {
     return GDCreateVram(&descriptor);
 }
 
+/// What a pen of one pixel may touch.
 GRect around(const GLine& line) {
     constexpr int16_t kPen = 1;
     GRect rect;
@@ -67,10 +68,10 @@ GRect Layer::drawDone(const View& view, const Point3& from, const Point3& to, Mo
     drawMove(view, from, to, kind, true);
     const GPoint a = view.pixel(from);
     const GPoint b = view.pixel(to);
-    GRect changed = around({a.x, a.y, b.x, b.y});
-    GROffsetRect(&changed, static_cast<int16_t>(size_.width / 2),
+    GLine line{a.x, a.y, b.x, b.y};
+    GLOffsetLine(&line, static_cast<int16_t>(size_.width / 2),
                  static_cast<int16_t>(size_.height / 2));
-    return changed;
+    return around(line);
 }
 
 /// The display is the destination: its handle maps both places, and has no origin.

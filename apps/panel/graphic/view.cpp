@@ -51,7 +51,7 @@ bool View::line(const Point3& from, const Point3& to, GLine& line) const {
     if (!toolpath::clipSegment(a, b, reach())) {
         return false;
     }
-    line = {round16(a.x), round16(a.y), round16(b.x), round16(b.y)};
+    GLSetLine(&line, round16(a.x), round16(a.y), round16(b.x), round16(b.y));
     return true;
 }
 

@@ -1,5 +1,6 @@
 // The tool path: what the program will do, what is done, and the tool on its way.
 #include "graphic/layer.h"
+#include "graphic/tool_mark.h"
 #include "model/path_tracer.h"
 #include "parts/readout.h"
 #include "screens/screens.h"
@@ -25,8 +26,7 @@ constexpr SoftKey kKeys[] = {
 };
 
 constexpr double kZoom = 1.25;
-constexpr int kPan = 40;   // pixels a key
-constexpr int kMarker = 6; // pixels from the middle of the tool's mark
+constexpr int kPan = 40; // pixels a key
 
 /// What a program without a path is shown in.
 constexpr Box3 kEmptyWork{{-50, -50, -25}, {50, 50, 25}};
@@ -52,11 +52,10 @@ class GraphicScreen : public Screen {
     void drawLayer();
     void grow();
     void addDone(const Point3& from, const Point3& to, MoveKind kind);
-    void moveMarker();
+    void moveTool();
     void showPosition();
     void pan(int dx, int dy);
-    GRect markerPlace() const;
-    void drawMarker() const;
+    ToolMark toolMark() const;
 
     GRect area_{};
     std::unique_ptr<Layer> layer_;
@@ -67,7 +66,7 @@ class GraphicScreen : public Screen {
     Progress progress_;
     size_t drawn_ = 0; ///< moves that are drawn as done
     Point3 tip_{};     ///< how far the next one is
-    GPoint marker_{};  ///< where the tool is shown, pixels of the view
+    GPoint tool_{};    ///< where it is shown, pixels of the view
     std::optional<GPoint> drag_;
     std::array<Readout, kAxes> position_;
     Readout grid_;
@@ -126,7 +125,7 @@ void GraphicScreen::drawLayer() {
     layer_->draw(*view_, path_, work_, progress_.done());
     drawn_ = progress_.done();
     tip_ = startOf(path_, drawn_);
-    marker_ = view_->pixel(context_.now.work);
+    tool_ = view_->pixel(context_.now.work);
     grid_.text = joined({text(u"GridStep"), u" ", shortest(gridStep(view_->scale())), u" mm"});
     context_.damage.add(area_);
 }
@@ -140,7 +139,7 @@ void GraphicScreen::update() {
     } else {
         drawLayer();
     }
-    moveMarker();
+    moveTool();
     showPosition();
 }
 
@@ -168,12 +167,12 @@ void GraphicScreen::addDone(const Point3& from, const Point3& to, MoveKind kind)
     }
 }
 
-void GraphicScreen::moveMarker() {
+void GraphicScreen::moveTool() {
     const GPoint now = view_->pixel(context_.now.work);
-    if (now.x != marker_.x || now.y != marker_.y) {
-        context_.damage.add(markerPlace());
-        marker_ = now;
-        context_.damage.add(markerPlace());
+    if (now.x != tool_.x || now.y != tool_.y) {
+        context_.damage.add(toolMark().area());
+        tool_ = now;
+        context_.damage.add(toolMark().area());
     }
 }
 
@@ -272,10 +271,11 @@ void GraphicScreen::pan(int dx, int dy) {
     drawLayer();
 }
 
-GRect GraphicScreen::markerPlace() const {
-    const int x = area_.left + layer_->size().width / 2 + marker_.x;
-    const int y = area_.top + layer_->size().height / 2 + marker_.y;
-    return box(x - kMarker, y - kMarker, 2 * kMarker + 1, 2 * kMarker + 1);
+ToolMark GraphicScreen::toolMark() const {
+    GPoint tip = tool_;
+    GPTOffsetPoint(&tip, static_cast<int16_t>(area_.left + layer_->size().width / 2),
+                   static_cast<int16_t>(area_.top + layer_->size().height / 2));
+    return {view_->projection(), tip};
 }
 
 void GraphicScreen::draw(const GRect& area) const {
@@ -284,21 +284,9 @@ void GraphicScreen::draw(const GRect& area) const {
         value.draw(painter(), area);
     }
     grid_.draw(painter(), area);
-    if (meet(markerPlace(), area)) {
-        drawMarker();
+    if (meet(toolMark().area(), area)) {
+        toolMark().draw(painter());
     }
-}
-
-/// A tool from above: a disc in a ring.
-void GraphicScreen::drawMarker() const {
-    GDrawHandle* const handle = painter().handle();
-    const GRect ring = markerPlace();
-    const GRect disc = inside(ring, 3);
-    GDSetPenColor(handle, painter().color(Ink::Tool));
-    GDSetFillPattern(handle, G_FILL_NONE);
-    GDDrawOval(handle, &ring);
-    GDSetFillAttribute(handle, G_FILL_FORE, painter().color(Ink::Tool), G_NO_COLOR);
-    GDDrawOval(handle, &disc);
 }
 
 } // namespace
