@@ -68,7 +68,12 @@ enum {
 };
 
 /** Units of a path and of its parts, their NUL included. */
-enum { G_PATH_SIZE = 260, G_DRIVE_SIZE = 3, G_DIRECTORY_SIZE = 256, G_NAME_SIZE = 256 };
+enum {
+    G_PATH_SIZE = 260,      /**< of a path */
+    G_DRIVE_SIZE = 3,       /**< of a drive: a letter and a colon */
+    G_DIRECTORY_SIZE = 256, /**< of the folders of a path */
+    G_NAME_SIZE = 256       /**< of a name or an extension */
+};
 
 /** An open file. */
 typedef struct GFile GFile;

@@ -39,7 +39,7 @@ QUARLO_BEGIN
 /** Sizes and values in a file. */
 enum {
     G_GRF_FILE_HEADER = 32, /**< bytes */
-    G_GRF_FILE_VERSION = 1,
+    G_GRF_FILE_VERSION = 1, /**< the one there is */
     G_GRF_FILE_COLORS = 256 /**< colours in a palette, at most */
 };
 
@@ -112,6 +112,7 @@ static inline int32_t GGrfCanZoom(const GGrfFile* file) {
 static inline int32_t GGrfFitsSurface(const GGrfFile* file, const GVram* surface);
 
 /* How it is done. */
+/** @cond */
 
 typedef struct GGrfInspection {
     GGrfFile* file;
@@ -309,6 +310,8 @@ static inline void GGrfIgnoreFault(void* context, GGrfFault fault, size_t offset
 static inline int32_t GGrfOpenFile(GGrfFile* file, const uint8_t* bytes, size_t size) {
     return GGrfInspectFile(file, bytes, size, GGrfIgnoreFault, NULL) == 0;
 }
+
+/** @endcond */
 
 QUARLO_END
 

@@ -14,8 +14,11 @@
 
 QUARLO_BEGIN
 
-/** Number of dash patterns and of fill patterns in a handle. */
-enum { G_DASH_COUNT = 8, G_FILL_PATTERN_COUNT = 38 };
+/** Patterns of a handle. */
+enum {
+    G_DASH_COUNT = 8,         /**< dash patterns */
+    G_FILL_PATTERN_COUNT = 38 /**< fill patterns */
+};
 
 /** Fill styles: the negative values of GDrawHandle::fillPattern. */
 enum {
@@ -26,7 +29,11 @@ enum {
 };
 
 /** Joins between consecutive wide lines: values of GDrawHandle::penJoin. */
-enum { G_JOIN_NONE = 0, G_JOIN_BEVEL = 1, G_JOIN_ROUND = 2 };
+enum {
+    G_JOIN_NONE = 0,  /**< the corner stays open */
+    G_JOIN_BEVEL = 1, /**< the corner is cut off straight */
+    G_JOIN_ROUND = 2  /**< the corner is rounded */
+};
 
 /** Bits of GDrawHandle::modeFlags. */
 enum { G_FLAG_VIRTUAL = 1 /**< coordinates are mapped from the virtual rectangle */ };
@@ -42,7 +49,10 @@ typedef struct GBrush {
 } GBrush;
 
 /** Directions of a gradation. */
-enum { G_GRADATION_DOWN = 0, G_GRADATION_ACROSS = 1 };
+enum {
+    G_GRADATION_DOWN = 0,  /**< from the upper edge to the lower one */
+    G_GRADATION_ACROSS = 1 /**< from the left edge to the right one */
+};
 
 /** A colour ramp for fill style #G_FILL_GRADATION. Any other direction draws nothing. */
 typedef struct GGradationInfo {
@@ -115,19 +125,19 @@ struct GDrawHandle {
     const GPixelOps* pixelOps; /**< the operations for `target` and `drawingMode` */
     uint8_t dashes[G_DASH_COUNT][8]; /**< 64 steps each, least significant bit first */
     uint8_t fillPatterns[G_FILL_PATTERN_COUNT][8]; /**< eight rows each, bit 7 leftmost */
-    GPolygonState polygon;
-    GWideLineState wideLine;
-    GEllipseState ellipse;
-    GArcState arc;
+    GPolygonState polygon;                         /**< of the polygon filler */
+    GWideLineState wideLine;                       /**< of wide lines */
+    GEllipseState ellipse;                         /**< of the ellipse fill */
+    GArcState arc;                                 /**< of arcs and sectors */
     uint16_t error;           /**< mailbox between program and platform: GDQueryError() */
     GGradationInfo gradation; /**< GDSetGradationInfo() */
     uint8_t colorMode;        /**< non-zero: colours are 0x00RRGGBB and converted */
-    uint32_t modeRedMask;     /**< channel masks of device surfaces, GDSetColorMode() */
-    uint32_t modeGreenMask;
-    uint32_t modeBlueMask;
-    int8_t redShift; /**< from an 8-bit channel to the mask's top bit, left when positive */
-    int8_t greenShift;
-    int8_t blueShift;
+    uint32_t modeRedMask;     /**< red mask of device surfaces, GDSetColorMode() */
+    uint32_t modeGreenMask;   /**< green mask of device surfaces */
+    uint32_t modeBlueMask;    /**< blue mask of device surfaces */
+    int8_t redShift;    /**< from an 8-bit channel to the mask's top bit, left when positive */
+    int8_t greenShift;  /**< likewise */
+    int8_t blueShift;   /**< likewise */
     uint32_t foreColor; /**< as last given to GDSetForeColor() */
     uint32_t backColor; /**< as last given to GDSetBackColor() */
     uint32_t penColor;  /**< as last given to GDSetPenColor() */

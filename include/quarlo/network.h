@@ -61,8 +61,13 @@ enum {
     G_NET_FTP = 3    /**< FTP */
 };
 
-/** Usual ports; 0 stands for the protocol's own. */
-enum { G_NET_PORT_DEFAULT = 0, G_NET_PORT_FTP = 21, G_NET_PORT_HTTP = 80, G_NET_PORT_HTTPS = 443 };
+/** Usual ports. */
+enum {
+    G_NET_PORT_DEFAULT = 0, /**< the protocol's own */
+    G_NET_PORT_FTP = 21,    /**< FTP */
+    G_NET_PORT_HTTP = 80,   /**< HTTP */
+    G_NET_PORT_HTTPS = 443  /**< HTTPS */
+};
 
 /** Flags of calls that open or transfer something; bits. */
 enum {
@@ -128,7 +133,11 @@ enum {
 enum { G_NET_OPTION_ALL = 1 /**< handles that belong to this one already get it too */ };
 
 /** Units of the parts of a URL, their NUL included. */
-enum { G_URL_PART_SIZE = 256, G_URL_PATH_SIZE = 2048, G_URL_SIZE = 3072 };
+enum {
+    G_URL_PART_SIZE = 256,  /**< of a host, a user and so on */
+    G_URL_PATH_SIZE = 2048, /**< of a path */
+    G_URL_SIZE = 3072       /**< of a whole URL */
+};
 
 /** A session, a connection, a request, an open file or a list. */
 typedef struct GNetHandle GNetHandle;
@@ -202,6 +211,7 @@ QUARLO_API int32_t GNetCombineUrl(const char16_t* base, const char16_t* relative
  * Forwards to service 87: begins a session.
  *
  * @param agent how the program calls itself to servers; null for the platform's own name
+ * @return the session, to be closed
  */
 QUARLO_API GNetHandle* GNetOpen(const char16_t* agent);
 

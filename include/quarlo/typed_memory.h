@@ -18,8 +18,11 @@
 
 QUARLO_BEGIN
 
-/** Most blocks at once, and units of a block's name with its NUL. */
-enum { G_TYPED_MEMORY_COUNT = 256, G_TYPED_MEMORY_NAME_SIZE = 16 };
+/** Limits. */
+enum {
+    G_TYPED_MEMORY_COUNT = 256,   /**< most blocks at once */
+    G_TYPED_MEMORY_NAME_SIZE = 16 /**< units of a block's name, its NUL included */
+};
 
 /**
  * Makes a block, filled with zeros, or finds one of the same name and size.

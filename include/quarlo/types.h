@@ -43,24 +43,24 @@ typedef uintptr_t GWord;
 
 /** A point in pixels. */
 typedef struct GPoint {
-    int16_t x;
-    int16_t y;
+    int16_t x; /**< column */
+    int16_t y; /**< row */
 } GPoint;
 
 /** A rectangle in pixels. Both edges are inclusive: (0, 0, 9, 9) covers 10 x 10 pixels. */
 typedef struct GRect {
-    int16_t left;
-    int16_t top;
-    int16_t right;
-    int16_t bottom;
+    int16_t left;   /**< first column */
+    int16_t top;    /**< first row */
+    int16_t right;  /**< last column */
+    int16_t bottom; /**< last row */
 } GRect;
 
 /** A line from (x1, y1) to (x2, y2). Unlike a rectangle it is never sorted. */
 typedef struct GLine {
-    int16_t x1;
-    int16_t y1;
-    int16_t x2;
-    int16_t y2;
+    int16_t x1; /**< column where it begins */
+    int16_t y1; /**< row where it begins */
+    int16_t x2; /**< column where it ends */
+    int16_t y2; /**< row where it ends */
 } GLine;
 
 /** A polygon. The points stay the caller's; the library neither copies nor frees them. */
@@ -72,8 +72,8 @@ typedef struct GPoly {
 
 /** An extent in pixels. */
 typedef struct GSize {
-    int16_t width;
-    int16_t height;
+    int16_t width;  /**< columns */
+    int16_t height; /**< rows */
 } GSize;
 
 typedef struct GVram GVram;             /**< a surface: surface.h */

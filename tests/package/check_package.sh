@@ -40,3 +40,7 @@ flags=$(pkg-config --cflags --libs quarlo gpi)
 }
 "$work/consumer/draw_c"
 "$work/consumer/draw_cpp"
+
+# The manual.
+groff -man -Tascii "$prefix/share/man/man3/GDLineTo.3" >"$work/page.txt"
+grep -q 'void GDLineTo(GDrawHandle\* handle, int16_t x, int16_t y);' "$work/page.txt"
