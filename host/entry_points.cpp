@@ -51,6 +51,12 @@ int32_t GPIHostEndFrame(void) {
         0, [] { return gpi::screen() != nullptr && gpi::screen()->display.endFrame() ? 1 : 0; });
 }
 
+uint32_t GPIHostFrameChecksum(void) {
+    return gpi::guarded(0U, [] {
+        return gpi::screen() != nullptr ? gpi::checksum(gpi::screen()->display.frame()) : 0U;
+    });
+}
+
 int32_t GPIHostWritePng(const char* path) {
     return gpi::guarded(0, [&] {
         const bool possible = path != nullptr && gpi::screen() != nullptr;

@@ -319,6 +319,9 @@ void Panel::draw() {
     const auto took = static_cast<int32_t>(microseconds() - start);
     counters.set(Counters::LastMicros, took);
     counters.set(Counters::WorstMicros, std::max(took, counters[Counters::WorstMicros]));
+    if (options_.onFrame) {
+        options_.onFrame();
+    }
 }
 
 void Panel::drawArea(const GRect& area) {

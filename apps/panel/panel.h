@@ -9,6 +9,7 @@
 
 #include <gpi/host.h>
 
+#include <functional>
 #include <map>
 #include <memory>
 
@@ -20,7 +21,8 @@ struct PanelOptions {
     size_t language = 0;   ///< of kLanguages
     std::string program;   ///< to be chosen, empty for none
     uint64_t (*microseconds)() =
-        nullptr; ///< measures redraws; null where nothing is to be measured
+        nullptr;                   ///< measures redraws; null where nothing is to be measured
+    std::function<void()> onFrame; ///< called behind the end of each frame, if there is something
 };
 
 /// The language that the operator chose last, of kLanguages.

@@ -3,6 +3,8 @@
 #include "display/area.h"
 #include "raster/kernel/format.h"
 
+#include <zlib.h>
+
 #include <array>
 #include <cstring>
 
@@ -56,6 +58,28 @@ void convertToRgb(const Frame& frame, const GRect& area, std::vector<uint32_t>& 
                                   static_cast<size_t>(area.left)];
         convert(frame.at(area.left, y), to, widthOf(area), frame.palette);
     }
+}
+
+std::vector<uint8_t> rgbBytes(std::span<const uint32_t> colors) {
+    std::vector<uint8_t> bytes(colors.size() * 3);
+    uint8_t* to = bytes.data();
+    for (const uint32_t rgb : colors) {
+        *to++ = static_cast<uint8_t>(rgb >> 16);
+        *to++ = static_cast<uint8_t>(rgb >> 8);
+        *to++ = static_cast<uint8_t>(rgb);
+    }
+    return bytes;
+}
+
+std::vector<uint8_t> rgbBytes(const Frame& frame) {
+    std::vector<uint32_t> rgb(static_cast<size_t>(frame.width) * static_cast<size_t>(frame.height));
+    convertToRgb(frame, wholeArea(frame.width, frame.height), rgb);
+    return rgbBytes(std::span<const uint32_t>(rgb));
+}
+
+uint32_t checksum(const Frame& frame) {
+    const std::vector<uint8_t> bytes = rgbBytes(frame);
+    return static_cast<uint32_t>(crc32_z(0, bytes.data(), bytes.size()));
 }
 
 } // namespace gpi

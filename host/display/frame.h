@@ -7,6 +7,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -40,6 +41,13 @@ void copyInto(Frame& frame, const uint8_t* pixels, const GRect& area);
 
 /// Converts an area of a frame into words 0x00RRGGBB; `rgb` is a picture of the frame's size.
 void convertToRgb(const Frame& frame, const GRect& area, std::vector<uint32_t>& rgb);
+
+/// Colours 0x00RRGGBB as the bytes red, green, blue: some, or a whole frame's.
+std::vector<uint8_t> rgbBytes(std::span<const uint32_t> colors);
+std::vector<uint8_t> rgbBytes(const Frame& frame);
+
+/// CRC-32 of a frame's colours, each as the bytes red, green, blue.
+uint32_t checksum(const Frame& frame);
 
 /// Writes a frame as a PNG file, in 256 colours where it has a palette, to a new file that then
 /// takes the place of an old one. False, and one line is reported, when that fails.

@@ -1,4 +1,3 @@
-#include "display/area.h"
 #include "display/frame.h"
 #include "report.h"
 
@@ -17,24 +16,6 @@ struct CloseFile {
     void operator()(std::FILE* file) const { static_cast<void>(std::fclose(file)); }
 };
 
-/// Colours as the bytes red, green, blue.
-template <typename Colors>
-std::vector<uint8_t> bytesOf(const Colors& colors) {
-    std::vector<uint8_t> bytes;
-    bytes.reserve(colors.size() * 3);
-    for (const uint32_t rgb : colors) {
-        bytes.insert(bytes.end(), {static_cast<uint8_t>(rgb >> 16), static_cast<uint8_t>(rgb >> 8),
-                                   static_cast<uint8_t>(rgb)});
-    }
-    return bytes;
-}
-
-std::vector<uint8_t> directColors(const Frame& frame) {
-    std::vector<uint32_t> rgb(static_cast<size_t>(frame.width) * static_cast<size_t>(frame.height));
-    convertToRgb(frame, wholeArea(frame.width, frame.height), rgb);
-    return bytesOf(rgb);
-}
-
 bool writeWhole(const std::string& path, const Frame& frame) {
     const std::unique_ptr<std::FILE, CloseFile> file(std::fopen(path.c_str(), "wb"));
     if (file == nullptr) {
@@ -49,11 +30,11 @@ bool writeWhole(const std::string& path, const Frame& frame) {
         image.format = PNG_FORMAT_RGB_COLORMAP;
         image.colormap_entries = static_cast<png_uint_32>(frame.palette.size());
         written = png_image_write_to_stdio(&image, file.get(), 0, frame.pixels.data(), 0,
-                                           bytesOf(frame.palette).data());
+                                           rgbBytes(frame.palette).data());
     } else {
         image.format = PNG_FORMAT_RGB;
         written =
-            png_image_write_to_stdio(&image, file.get(), 0, directColors(frame).data(), 0, nullptr);
+            png_image_write_to_stdio(&image, file.get(), 0, rgbBytes(frame).data(), 0, nullptr);
     }
     return written != 0 && std::fflush(file.get()) == 0;
 }

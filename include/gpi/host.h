@@ -105,6 +105,14 @@ GPI_API int32_t GPIHostWritePng(const char* path);
  */
 GPI_API int32_t GPIHostEndFrame(void);
 
+/**
+ * What the display shows, as a number: runs of a program are compared by it, whatever shows them.
+ *
+ * @return CRC-32 of all pixels, row by row, each as the bytes red, green, blue; 0 when the platform
+ *     is not started
+ */
+GPI_API uint32_t GPIHostFrameChecksum(void);
+
 /** Whether people see the display: in a window, remotely or on a screen. @return 1 or 0 */
 GPI_API int32_t GPIHostHasWindow(void);
 

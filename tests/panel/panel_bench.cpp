@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <sstream>
+#include <utility>
 
 namespace panel::test {
 namespace {
@@ -20,13 +21,14 @@ Environment::Values valuesFor(const Environment::Values& changes, const std::str
 
 } // namespace
 
-Bench::Bench(const Environment::Values& changes, size_t language)
+Bench::Bench(const Environment::Values& changes, size_t language, std::function<void()> onFrame)
     : platform_(valuesFor(changes, user_.path())) {
     GetGPIFunction();
     GPIHostHoldClock(kStartTime);
     PanelOptions options;
     options.scripted = true;
     options.language = language;
+    options.onFrame = std::move(onFrame);
     EXPECT_TRUE(canPaint());
     panel_.emplace(options);
 }

@@ -6,6 +6,7 @@
 #include "support/environment.h"
 #include "support/started_platform.h"
 
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -21,7 +22,9 @@ inline constexpr uint32_t kStartTime = 1'709'280'000;
 /// A panel on a display in memory, before the simulated machine, under a clock that is held.
 class Bench {
   public:
-    explicit Bench(const Environment::Values& changes = {}, size_t language = 0);
+    /// @param onFrame called behind the end of each frame
+    explicit Bench(const Environment::Values& changes = {}, size_t language = 0,
+                   std::function<void()> onFrame = nullptr);
 
     /// Carries out the lines of a script. Fails the test when one is wrong.
     void run(const std::string& lines);

@@ -1,56 +1,20 @@
 // Scripted runs against pictures that somebody has looked at. scripts/update-panel-pictures draws
 // them anew.
 #include "panel_bench.h"
+#include "scripted_run.h"
 #include "support/png_reader.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
 #include <set>
-#include <sstream>
 
 namespace panel::test {
 namespace {
 
 using gpi::test::PngPicture;
 using gpi::test::readPng;
-
-/// A line of runs.txt.
-struct ScriptedRun {
-    std::string folder;
-    std::string script;
-    std::string width;
-    std::string height;
-    std::string format;
-    std::string language;
-};
-
-std::vector<ScriptedRun> runs() {
-    std::ifstream lines(PANEL_TESTS "/runs.txt");
-    std::vector<ScriptedRun> all;
-    for (std::string line; std::getline(lines, line);) {
-        ScriptedRun run;
-        std::istringstream words(line);
-        words >> run.folder >> run.script >> run.width >> run.height >> run.format >> run.language;
-        if (words && run.folder[0] != '#') {
-            all.push_back(run);
-        }
-    }
-    return all;
-}
-
-size_t languageOf(const ScriptedRun& run) {
-    return run.language == "english" ? 0 : run.language == "japanese" ? 1 : 2;
-}
-
-std::string textOf(const std::string& path) {
-    std::ifstream file(path);
-    std::ostringstream text;
-    text << file.rdbuf();
-    return text.str();
-}
 
 std::set<std::string> picturesIn(const std::string& folder) {
     std::set<std::string> names;
@@ -92,10 +56,8 @@ class Pictures : public testing::TestWithParam<ScriptedRun> {};
 
 TEST_P(Pictures, AreWhatTheyWere) {
     const ScriptedRun& run = GetParam();
-    Bench bench(
-        {{"QUARLO_WIDTH", run.width}, {"QUARLO_HEIGHT", run.height}, {"QUARLO_FORMAT", run.format}},
-        languageOf(run));
-    bench.run(textOf(PANEL_TESTS "/scripts/" + run.script + ".txt"));
+    Bench bench(run.settings(), run.languageIndex());
+    bench.run(run.lines());
     EXPECT_TRUE(bench.context().texts.missing().empty());
 
     const std::string kept = PANEL_TESTS "/pictures/" + run.folder;
@@ -108,11 +70,8 @@ TEST_P(Pictures, AreWhatTheyWere) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Runs, Pictures, testing::ValuesIn(runs()), [](const auto& info) {
-    std::string name = info.param.folder;
-    std::replace(name.begin(), name.end(), '-', '_');
-    return name;
-});
+INSTANTIATE_TEST_SUITE_P(Runs, Pictures, testing::ValuesIn(scriptedRuns()),
+                         [](const auto& info) { return info.param.testName(); });
 
 } // namespace
 } // namespace panel::test

@@ -29,6 +29,7 @@ TEST(Script, NamesTheLineThatIsWrong) {
     EXPECT_EQ(complaint(bench, "key NoSuchKey"), "line 1: key NoSuchKey");
     EXPECT_EQ(complaint(bench, "tap 10"), "line 1: tap 10");
     EXPECT_EQ(complaint(bench, "wait soon"), "line 1: wait soon");
+    EXPECT_EQ(complaint(bench, "checksum"), "line 1: checksum");
     EXPECT_EQ(complaint(bench, "up A"), "line 1: up A") << "it is not down";
     EXPECT_EQ(complaint(bench, "shot no/such/folder"), "line 1: shot no/such/folder");
 }
@@ -37,6 +38,24 @@ TEST(Script, WritesPictures) {
     Bench bench;
     bench.run("shot here");
     EXPECT_TRUE(std::filesystem::exists(bench.shots() + "/here.png"));
+}
+
+TEST(Script, PrintsChecksums) {
+    Bench bench;
+    std::istringstream lines("checksum first\nkey F1\nwait 500\nchecksum second\n");
+    std::ostringstream printed;
+    EXPECT_FALSE(Script(bench.panel(), bench.shots(), printed).run(lines));
+    std::istringstream words(printed.str());
+    std::string first;
+    std::string second;
+    uint32_t before = 0;
+    uint32_t after = 0;
+    words >> first >> std::hex >> before >> second >> after;
+    EXPECT_TRUE(words) << printed.str();
+    EXPECT_EQ(first, "first");
+    EXPECT_EQ(second, "second");
+    EXPECT_NE(before, after);
+    EXPECT_EQ(after, GPIHostFrameChecksum());
 }
 
 TEST(Script, LetsTimePassByWaitingOnly) {

@@ -5,6 +5,7 @@
 #include <gpi/host.h>
 
 #include <algorithm>
+#include <iomanip>
 #include <sstream>
 #include <utility>
 
@@ -15,8 +16,8 @@ constexpr int kStep = 10; // milliseconds between looks at the timers
 
 } // namespace
 
-Script::Script(Panel& panel, std::filesystem::path shots)
-    : panel_(panel), shots_(std::move(shots)) {}
+Script::Script(Panel& panel, std::filesystem::path shots, std::ostream& out)
+    : panel_(panel), shots_(std::move(shots)), out_(out) {}
 
 std::optional<std::string> Script::run(std::istream& lines) {
     std::string line;
@@ -63,6 +64,9 @@ bool Script::carryOut(const std::string& line) {
     if (verb == "shot") {
         return shoot(name);
     }
+    if (verb == "checksum") {
+        return !name.empty() && sum(name);
+    }
     const bool known = verb == "key" || verb == "down" || verb == "up";
     return known && !name.empty() && press(name, verb != "up", verb != "down");
 }
@@ -104,6 +108,15 @@ bool Script::wait(int milliseconds) {
             break;
         }
     }
+    return true;
+}
+
+bool Script::sum(const std::string& name) {
+    panel_.handlePending();
+    // Nothing has changed in that pixel, but the call waits for all that was flushed before.
+    GDFlushScreenForce(panel_.context().painter.handle(), 0, 0, 1, 1);
+    out_ << name << ' ' << std::hex << std::setw(8) << std::setfill('0') << GPIHostFrameChecksum()
+         << std::dec << std::setfill(' ') << std::endl;
     return true;
 }
 

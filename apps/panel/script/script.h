@@ -4,7 +4,7 @@
 #include "panel.h"
 
 #include <filesystem>
-#include <istream>
+#include <iostream>
 #include <optional>
 #include <string>
 
@@ -22,11 +22,14 @@ namespace panel {
 ///     release X Y       releases the button
 ///     wait N            lets N milliseconds pass
 ///     shot NAME         writes the display to NAME.png
+///     checksum NAME     prints NAME and a checksum of the display, once people see it
 ///
 /// The clock must be held (GPIHostHoldClock()): time passes by `wait` only.
 class Script {
   public:
-    Script(Panel& panel, std::filesystem::path shots);
+    /// @param shots folder of the pictures
+    /// @param out where checksums go
+    Script(Panel& panel, std::filesystem::path shots, std::ostream& out = std::cout);
 
     /// @return what is wrong with the script, and in which line; nothing at its end
     std::optional<std::string> run(std::istream& lines);
@@ -38,9 +41,11 @@ class Script {
     bool point(int x, int y, uint32_t buttons);
     bool wait(int milliseconds);
     bool shoot(const std::string& name);
+    bool sum(const std::string& name);
 
     Panel& panel_;
     std::filesystem::path shots_;
+    std::ostream& out_;
     uint32_t buttons_ = 0;
 };
 

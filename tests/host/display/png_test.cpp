@@ -136,8 +136,18 @@ TEST(PngFile, ThatDoesNotFitLeavesTheOldOneAsItWas) {
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.path()), {}), 1);
 }
 
+TEST(FrameChecksum, IsThatOfTheColours) {
+    const StartedPlatform platform{
+        {"QUARLO_FORMAT", "24"}, {"QUARLO_WIDTH", "3"}, {"QUARLO_HEIGHT", "1"}};
+    EXPECT_EQ(GPIHostFrameChecksum(), 0xE60914AEU) << "nine zeros";
+    std::memcpy(platform.surface()->pixels, "123456789", 9); // in memory, too, red is first
+    platform.flushAll();
+    EXPECT_EQ(GPIHostFrameChecksum(), 0xCBF43926U) << "the check value of CRC-32";
+}
+
 TEST(PngFile, NeedsAPlatformAndAName) {
     EXPECT_EQ(GPIHostWritePng("x.png"), 0);
+    EXPECT_EQ(GPIHostFrameChecksum(), 0U);
     const StartedPlatform platform;
     EXPECT_EQ(GPIHostWritePng(nullptr), 0);
 }

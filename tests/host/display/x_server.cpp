@@ -5,7 +5,8 @@
 #include <unistd.h>
 
 namespace gpi::test {
-XServer::XServer() {
+
+XServer::XServer(const std::string& screen) {
     int ready[2] = {};
     if (pipe(ready) != 0) {
         return;
@@ -14,8 +15,8 @@ XServer::XServer() {
     if (process_ == 0) {
         close(ready[0]);
         // The server chooses a free number and tells it when it is ready.
-        become({XVFB, "-displayfd", std::to_string(ready[1]), "-screen", "0", "640x480x24",
-                "-nolisten", "tcp"});
+        become({XVFB, "-displayfd", std::to_string(ready[1]), "-screen", "0", screen, "-nolisten",
+                "tcp"});
     }
     close(ready[1]);
     char byte = 0;

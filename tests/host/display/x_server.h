@@ -12,7 +12,8 @@ namespace gpi::test {
 /// Runs Xvfb, which listens on no network, for the time of a test.
 class XServer {
   public:
-    XServer();
+    /// @param screen width x height x bits
+    explicit XServer(const std::string& screen = "640x480x24");
     ~XServer();
     XServer(const XServer&) = delete;
     XServer& operator=(const XServer&) = delete;
