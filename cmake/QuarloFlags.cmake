@@ -23,6 +23,11 @@ if(CMAKE_SYSTEM_PROCESSOR MATCHES "^(i.86|x86)$" OR CMAKE_C_FLAGS MATCHES "-m32"
     add_compile_options(-msse2 -mfpmath=sse)
 endif()
 
+# Files may be larger than 2 GB on 32-bit systems too.
+if(CMAKE_SIZEOF_VOID_P EQUAL 4 AND NOT WIN32)
+    add_compile_definitions(_FILE_OFFSET_BITS=64)
+endif()
+
 # What is built for use does not depend on where it was built.
 add_compile_options(
     $<$<CONFIG:Release,MinSizeRel>:-ffile-prefix-map=${PROJECT_SOURCE_DIR}=.>)

@@ -83,7 +83,7 @@ File::File(UniqueFd file, uint32_t mode, UniqueFd folder)
 
 void File::turn(Direction next) {
     if (direction_ != Direction::None && direction_ != next) {
-        std::fseek(stream_.get(), 0, SEEK_CUR);
+        fseeko(stream_.get(), 0, SEEK_CUR);
     }
     direction_ = next;
     std::clearerr(stream_.get());

@@ -17,7 +17,7 @@ size_t bucketsFor(size_t words) {
 
 /// Fibonacci hashing: neighbouring characters of a style go to different buckets.
 size_t hashOf(uint64_t key, size_t buckets) {
-    return (key * 0x9E3779B97F4A7C15U >> 32) & (buckets - 1);
+    return static_cast<uint32_t>(key * 0x9E3779B97F4A7C15U >> 32) & (buckets - 1);
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "net/ftp_time.h"
 
+#include <chrono>
 #include <limits>
 #include <optional>
 
@@ -8,6 +9,8 @@
 
 namespace gpi {
 namespace {
+
+using namespace std::chrono;
 
 constexpr uint32_t kDay = 24 * 60 * 60;
 
@@ -19,18 +22,19 @@ std::optional<tm> parse(const std::string& text, const char* form) {
     return end != nullptr && *end == '\0' ? std::optional(time) : std::nullopt;
 }
 
-uint32_t secondsOf(tm time) {
-    const time_t seconds = timegm(&time);
+/// Without the system's own functions, whose time ends in 2038 on some.
+uint32_t secondsOf(const tm& time) {
+    const sys_days day = year(time.tm_year + 1900) / (time.tm_mon + 1) / time.tm_mday;
+    const sys_seconds moment = day + hours(time.tm_hour) + minutes(time.tm_min);
+    const int64_t seconds = moment.time_since_epoch().count();
     const bool fits = seconds > 0 && seconds <= int64_t{std::numeric_limits<uint32_t>::max()};
     return fits ? static_cast<uint32_t>(seconds) : 0;
 }
 
 /// A time of the last year as seen from now.
 uint32_t lately(tm time, uint32_t now) {
-    const time_t moment = now;
-    tm today{};
-    gmtime_r(&moment, &today);
-    time.tm_year = today.tm_year;
+    const year_month_day today(floor<days>(sys_seconds(seconds(now))));
+    time.tm_year = static_cast<int>(today.year()) - 1900;
     const uint32_t seconds = secondsOf(time);
     if (seconds <= now + kDay) { // clocks differ
         return seconds;

@@ -35,8 +35,10 @@ std::string netLineOrNone(const char16_t* text) {
 }
 
 void requireLine(std::string_view text) {
-    require(std::none_of(text.begin(), text.end(),
-                         [](char byte) { return (byte >= 0 && byte < ' ') || byte == 0x7F; }));
+    require(std::none_of(text.begin(), text.end(), [](char byte) {
+        const auto code = static_cast<uint8_t>(byte);
+        return code < ' ' || code == 0x7F;
+    }));
 }
 
 void handOutText(std::string_view utf8, char16_t* out, int32_t* size) {

@@ -35,7 +35,7 @@ class DrmBuffer {
             drmModeMapDumbBuffer(card_, memory_, &offset) != 0) {
             return;
         }
-        mapping_ = Mapping(card_, size, static_cast<off_t>(offset));
+        mapping_ = Mapping(card_, static_cast<size_t>(size), static_cast<off_t>(offset));
         stride_ = static_cast<ptrdiff_t>(stride);
     }
     ~DrmBuffer() {

@@ -42,8 +42,8 @@ class Fbdev : public ScreenDevice {
           size_{static_cast<int>(mode.xres), static_cast<int>(mode.yres)},
           format_(formatOf(mode)),
           memory_(std::move(memory)),
-          seen_{memory_.start() + ptrdiff_t{mode.yoffset} * stride +
-                    ptrdiff_t{mode.xoffset} * format_.bytes(),
+          seen_{memory_.start() + static_cast<ptrdiff_t>(mode.yoffset) * stride +
+                    static_cast<ptrdiff_t>(mode.xoffset) * format_.bytes(),
                 stride} {}
 
     Size size() const override { return size_; }

@@ -5,8 +5,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <chrono>
 #include <ctime>
+#include <limits>
 
 namespace {
 
@@ -152,7 +154,8 @@ TEST(TimeOfDay, BreaksDownKnownMoments) {
 }
 
 TEST(TimeOfDay, BreaksDownLikeTheSystem) {
-    for (uint64_t time = 0; time <= UINT32_MAX; time += 86'399 * 11) {
+    const uint64_t last = std::min<uint64_t>(UINT32_MAX, std::numeric_limits<std::time_t>::max());
+    for (uint64_t time = 0; time <= last; time += 86'399 * 11) {
         GBrokenDownTime out{};
         breakDown(&out, static_cast<uint32_t>(time));
         const auto moment = static_cast<std::time_t>(time);
