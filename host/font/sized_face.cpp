@@ -1,5 +1,6 @@
 #include "font/sized_face.h"
 
+#include "font/grey.h"
 #include "font/script.h"
 
 #include <algorithm>
@@ -149,10 +150,13 @@ std::optional<Cell> SizedFace::render(uint32_t character) const {
     const FT_Face face = face_.get();
     const bool letter = !isIdeographic(character);
     const FT_Int32 flags = prepare(letter);
-    if (FT_Load_Glyph(face, glyph, FT_LOAD_RENDER | flags) != 0) {
+    if (FT_Load_Glyph(face, glyph, flags) != 0) {
         return std::nullopt;
     }
     const FT_GlyphSlot slot = face->glyph;
+    if ((grey_ ? renderGrey(slot) : FT_Render_Glyph(slot, FT_RENDER_MODE_MONO)) != 0) {
+        return std::nullopt;
+    }
     Cell cell(cellWidth(), size_.height);
     const int left = pitch_ == Pitch::Fixed ? slot->bitmap_left + (cell.width() - advance()) / 2
                                             : std::max(slot->bitmap_left, 0);
