@@ -1,6 +1,7 @@
 # Reads a built shared library and checks what its users and its loader see of it.
 #
-#   cmake -DLIBRARY=... -DNAMES=exports.txt -DNM=... -DREADELF=... -P check_exports.cmake
+#   cmake -DLIBRARY=... -DARCHIVES=... -DNAMES=exports.txt -DNM=... -DREADELF=...
+#       -P check_exports.cmake
 
 cmake_policy(VERSION 3.25)
 
@@ -60,8 +61,21 @@ function(check_needed)
         message(SEND_ERROR "depends on more than the C library: ${libraries}")
     endif()
 endfunction()
+
+# Nothing runs before the first call: quarlo.dll has no start-up code that would do it.
+function(check_unstarted)
+    run(sections ${READELF} --sections --wide ${ARCHIVES})
+    if(NOT "${sections}" MATCHES "\\.text")
+        message(SEND_ERROR "no objects to look at")
+    endif()
+    if("${sections}" MATCHES "\\.(init_array|ctors)")
+        message(SEND_ERROR "some object is initialised by code")
+    endif()
+endfunction()
+
 if(NOT INSTRUMENTED)
     check_needed()
+    check_unstarted()
 endif()
 
 # Hardened: the stack holds no code, and nothing that the loader has filled stays writable.
