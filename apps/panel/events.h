@@ -9,9 +9,11 @@ namespace panel {
 
 /// Types of events beside those of the library.
 enum class EventType : uint16_t {
-    Key = 16,   ///< param1: the key; param2: how often it went down, 0 for a release
-    Pointer,    ///< param1: a PointerAction; param2: row << 16 | column
-    OrdersDone, ///< param1: what came of them
+    Key = 16,       ///< param1: the key; param2: how often it went down, 0 for a release
+    Pointer,        ///< param1: a PointerAction; param2: row << 16 | column
+    OrdersDone,     ///< param1: what came of them
+    ProgramsListed, ///< servers have told what they have
+    ProgramFetched, ///< param1: 1 when a server's program is on the panel
 };
 
 enum class PointerAction : uint8_t { Move, Press, Release };

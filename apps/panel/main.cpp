@@ -3,6 +3,7 @@
 #include "options.h"
 #include "panel.h"
 #include "script/script.h"
+#include "settings.h"
 
 #include <gpi/host.h>
 #include <quarlo/quarlo.h>

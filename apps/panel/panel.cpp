@@ -1,5 +1,6 @@
 #include "panel.h"
 
+#include "settings.h"
 #include "text/format.h"
 
 #include <gpi/keys.h>
@@ -102,7 +103,7 @@ void postEventOf(const GMessage& message) {
 
 Panel::Panel(const PanelOptions& options)
     : options_(options),
-      context_(options.scripted),
+      context_(options.scripted, programServer()),
       status_(context_, stripsOf(context_.painter).status),
       message_(context_, stripsOf(context_.painter).message),
       keys_(context_, stripsOf(context_.painter).keys,
@@ -118,7 +119,7 @@ Panel::Panel(const PanelOptions& options)
     readMachine();
     tickSecond();
     if (!options.program.empty()) {
-        context_.orders.give(chooseProgram(wide(options.program)));
+        context_.openProgram(wide(options.program));
     }
     open(Action::ShowStart);
     draw();
@@ -183,6 +184,9 @@ void Panel::handle(const GEventMsg& event) {
     case static_cast<uint16_t>(EventType::OrdersDone):
         onOrdersDone(static_cast<int32_t>(event.param1));
         break;
+    case static_cast<uint16_t>(EventType::ProgramFetched):
+        onProgramFetched(event.param1 != 0);
+        break;
     default:
         break;
     }
@@ -241,6 +245,16 @@ void Panel::onOrdersDone(int32_t result) {
     readMachine();
 }
 
+/// A program that is not wanted any more stays where it is.
+void Panel::onProgramFetched(bool there) {
+    const auto program = std::exchange(context_.fetches, std::nullopt);
+    if (program && there) {
+        context_.openProgram(ProgramStore::copyName(program->name));
+    } else if (program) {
+        context_.tell(u"FetchFailed", true);
+    }
+}
+
 void Panel::open(Action action) {
     auto& screen = screens_[action];
     if (screen == nullptr) {
@@ -280,8 +294,10 @@ void Panel::choose(size_t language) {
 /// Looks at the machine, more often while it moves.
 void Panel::readMachine() {
     context_.now = readSnapshot(context_.now);
-    if (context_.now.program != context_.program.path()) {
+    if (context_.now.program != context_.program.path() || context_.programIsStale) {
         context_.program = ProgramFile(context_.now.program);
+        context_.programIsStale = false;
+        ++context_.programsRead;
     }
     context_.alarms.follow(readAlarms(context_.now.alarms), GETime(nullptr));
     const bool moves = context_.now.online && context_.now.state == G_NC_STATE_RUNNING;

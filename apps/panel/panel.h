@@ -25,9 +25,6 @@ struct PanelOptions {
     std::function<void()> onFrame; ///< called behind the end of each frame, if there is something
 };
 
-/// The language that the operator chose last, of kLanguages.
-size_t keptLanguage();
-
 /// One at a time; the platform must run, and canPaint().
 class Panel {
   public:
@@ -59,6 +56,7 @@ class Panel {
     void onKey(int32_t key, uint32_t count);
     void onPointer(PointerAction action, GPoint at);
     void onOrdersDone(int32_t result);
+    void onProgramFetched(bool there);
 
     void act(Action action);
     void release(Action action);

@@ -1,7 +1,7 @@
 // What the panel does when a key asks for it.
 #include "panel.h"
 
-#include "text/format.h"
+#include "settings.h"
 
 #include <utility>
 
@@ -12,23 +12,7 @@ namespace {
 constexpr int32_t kFeed = 0;
 constexpr int32_t kSpindle = 2;
 
-constexpr char16_t kProfile[] = u"panel.ini";
-constexpr char16_t kProfileSection[] = u"Panel";
-constexpr char16_t kLanguageKey[] = u"Language";
-
-void keepLanguage(size_t language) {
-    const std::u16string number = wholeText(static_cast<double>(language));
-    GIOSetPrivateProfileString(kProfileSection, kLanguageKey, number.c_str(), G_PROFILE_USER,
-                               kProfile);
-}
-
 } // namespace
-
-size_t keptLanguage() {
-    const int32_t kept = GIOGetPrivateProfileIntEx(kProfileSection, kLanguageKey, 0, kProfile);
-    return kept >= 0 && kept < static_cast<int32_t>(kLanguages.size()) ? static_cast<size_t>(kept)
-                                                                       : 0;
-}
 
 void Panel::act(Action action) {
     OrderQueue& orders = context_.orders;

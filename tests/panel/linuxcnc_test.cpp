@@ -1,18 +1,14 @@
 // The panel in front of the real LinuxCNC, as an operator has it: keys, time that passes, and what
 // the machine, asked by itself, says to that.
-#include "panel.h"
+#include "panel_operator.h"
 
-#include "host/nc/eventually.h"
 #include "host/nc/linuxcnc.h"
-#include "keyboard/key_names.h"
 #include "support/environment.h"
 #include "support/png_reader.h"
 #include "support/started_platform.h"
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <chrono>
 #include <cmath>
 #include <csignal>
 #include <filesystem>
@@ -23,18 +19,12 @@
 namespace panel::test {
 namespace {
 
-using gpi::nc::test::eventually;
 using gpi::nc::test::LinuxCnc;
 using gpi::test::Environment;
 using gpi::test::PngPicture;
 using gpi::test::StartedPlatform;
 using gpi::test::TemporaryFolder;
-using std::chrono::milliseconds;
 using std::chrono::steady_clock;
-
-/// What a frame may take, drawing under a sanitizer and a busy computer included. A call that waits
-/// for the control would take a second.
-constexpr milliseconds kLongestPass{500};
 
 // What the control says, not what the panel has read.
 
@@ -58,78 +48,6 @@ bool standsAt(double x, double y) {
 bool isIn(int32_t state) {
     return system(G_NC_SYSTEM_STATE) == state;
 }
-
-/// A panel that runs as main() has it run, but for the keys, which a test presses.
-class Operator {
-  public:
-    explicit Operator(const std::string& shots) : shots_(shots), panel_(PanelOptions{}) {}
-
-    const Context& context() const { return panel_.context(); }
-
-    /// One round of the panel's loop.
-    void pass() {
-        const auto begin = steady_clock::now();
-        GECheckTimer();
-        panel_.handlePending();
-        longest_ = std::max(longest_, steady_clock::now() - begin);
-    }
-
-    /// Lets the panel run until something is so.
-    template <class Condition>
-    testing::AssertionResult until(Condition condition) {
-        const bool came = eventually([&] {
-            pass();
-            return condition();
-        });
-        return came ? testing::AssertionSuccess()
-                    : testing::AssertionFailure() << "not within half a minute; " << said();
-    }
-
-    /// What the panel tells its operator: the last message, and the alarms that stand.
-    std::string said() const {
-        std::u16string text = context().message != nullptr ? context().message : u"no message";
-        for (const Alarm& alarm : context().alarms.standing()) {
-            text += u"; " + alarm.text;
-        }
-        return {text.begin(), text.end()};
-    }
-
-    void hold(const char* key) {
-        ASSERT_EQ(GPIHostFeedKey(*keyNamed(key), 1), 1);
-        pass();
-    }
-    void let(const char* key) {
-        ASSERT_EQ(GPIHostFeedKey(*keyNamed(key), 0), 1);
-        pass();
-    }
-    void press(std::initializer_list<const char*> keys) {
-        for (const char* const key : keys) {
-            hold(key);
-            let(key);
-        }
-    }
-    /// Text of upper case letters, digits and what needs no Shift.
-    void type(const std::string& text) {
-        for (const char character : text) {
-            press({std::string(1, character).c_str()});
-        }
-    }
-
-    /// What the display shows now.
-    PngPicture picture(const char* name) {
-        pass();
-        const std::string path = shots_ + "/" + name + ".png";
-        EXPECT_EQ(GPIHostWritePng(path.c_str()), 1);
-        return gpi::test::readPng(path);
-    }
-
-    steady_clock::duration longestPass() const { return longest_; }
-
-  private:
-    std::string shots_;
-    Panel panel_;
-    steady_clock::duration longest_{};
-};
 
 /// Pixels of an ink in an area.
 int64_t count(const PngPicture& picture, const GRect& area, Ink ink) {

@@ -2,16 +2,20 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <sstream>
 #include <utility>
 
 namespace panel::test {
 namespace {
 
-Environment::Values valuesFor(const Environment::Values& changes, const std::string& user) {
+Environment::Values valuesFor(const Environment::Values& changes, const std::string& user,
+                              const std::string& files) {
+    std::filesystem::copy(PANEL_FOLDER "/programs", files);
     Environment::Values values{{"QUARLO_PROFILES", PANEL_FOLDER "/profiles"},
                                {"QUARLO_USER_PROFILES", user},
-                               {"QUARLO_FILES", PANEL_FOLDER "/programs"},
+                               {"QUARLO_FILES", files},
+                               {"QUARLO_DATA_SERVER", PANEL_FOLDER "/data_server"},
                                {"QUARLO_FORMAT", "565"}};
     for (const auto& [name, value] : changes) {
         values[name] = value;
@@ -22,7 +26,7 @@ Environment::Values valuesFor(const Environment::Values& changes, const std::str
 } // namespace
 
 Bench::Bench(const Environment::Values& changes, size_t language, std::function<void()> onFrame)
-    : platform_(valuesFor(changes, user_.path())) {
+    : platform_(valuesFor(changes, user_.path(), files_.path())) {
     GetGPIFunction();
     GPIHostHoldClock(kStartTime);
     PanelOptions options;

@@ -37,6 +37,7 @@ class Bench {
   private:
     TemporaryFolder user_; ///< the user's profiles
     TemporaryFolder shots_;
+    TemporaryFolder files_; ///< part programs, and room for copies of others
     StartedPlatform platform_;
     std::optional<Panel> panel_;
 };

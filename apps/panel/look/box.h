@@ -21,10 +21,15 @@ inline int16_t heightOf(const GRect& rect) {
     return static_cast<int16_t>(rect.bottom - rect.top + 1);
 }
 
+/// Less a border, left and right, and above and below.
+inline GRect inside(GRect rect, int sides, int ends) {
+    GRResizeRect(&rect, static_cast<int16_t>(-sides), static_cast<int16_t>(-ends));
+    return rect;
+}
+
 /// Less a border of the same width all around.
 inline GRect inside(GRect rect, int border) {
-    GRResizeRect(&rect, static_cast<int16_t>(-border), static_cast<int16_t>(-border));
-    return rect;
+    return inside(rect, border, border);
 }
 
 inline bool meet(const GRect& a, const GRect& b) {

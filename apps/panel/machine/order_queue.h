@@ -2,36 +2,21 @@
 #pragma once
 
 #include "machine/order.h"
-
-#include <condition_variable>
-#include <mutex>
-#include <queue>
-#include <thread>
+#include "machine/worker.h"
 
 namespace panel {
 
-/// Orders wait for a thread of their own, since a control that is far or busy takes its time. What
-/// came of them is an event of type kOrdersDone with the result of carryOut() as `param1`.
+/// A control that is far or busy takes its time. What came of orders is an event of type OrdersDone
+/// with the result of carryOut() as `param1`.
 class OrderQueue {
   public:
-    /// @param atOnce carries orders out in the call that gives them: a script wants the same to
-    ///     happen at the same time whenever it runs
-    explicit OrderQueue(bool atOnce);
-    ~OrderQueue();
-    OrderQueue(const OrderQueue&) = delete;
-    OrderQueue& operator=(const OrderQueue&) = delete;
+    /// @param atOnce carries orders out in the call that gives them
+    explicit OrderQueue(bool atOnce) : worker_(atOnce) {}
 
     void give(Orders orders);
 
   private:
-    void work();
-
-    bool atOnce_;
-    std::mutex mutex_;
-    std::condition_variable changed_;
-    std::queue<Orders> waiting_; ///< guarded, and so is what follows
-    bool ending_ = false;
-    std::thread worker_;
+    Worker worker_;
 };
 
 } // namespace panel

@@ -1,5 +1,7 @@
 #include "machine/program_file.h"
 
+#include "text/format.h"
+
 #include <quarlo/quarlo.h>
 
 #include <algorithm>
@@ -23,17 +25,35 @@ std::string readFile(const std::u16string& path) {
     return bytes;
 }
 
-bool looksLikeProgram(const GDirectoryEntry& entry) {
-    if ((entry.attributes & G_FILE_DIRECTORY) != 0) {
+} // namespace
+
+bool isProgramName(const std::u16string& name) {
+    std::array<char16_t, G_NAME_SIZE> extension{};
+    const bool plain = name.find_first_of(u"/\\:") == std::u16string::npos;
+    if (!plain || GIOSplitPath(name.c_str(), nullptr, nullptr, nullptr, extension.data()) != 1) {
         return false;
     }
-    std::array<char16_t, G_NAME_SIZE> extension{};
-    GIOSplitPath(entry.name, nullptr, nullptr, nullptr, extension.data());
     const std::u16string_view found = extension.data();
     return found == u".nc" || found == u".NC" || found == u".ngc" || found == u".tap";
 }
 
-} // namespace
+bool writeProgram(const std::u16string& name, const std::string& bytes) {
+    const std::u16string part = name + u".part";
+    constexpr uint32_t kAnew = G_OPEN_WRITE | G_OPEN_CREATE | G_OPEN_TRUNCATE;
+    GFile* const file = GIOOpen(part.c_str(), kAnew, nullptr);
+    if (file == nullptr) {
+        return false;
+    }
+    int32_t done = 0;
+    const auto size = static_cast<int32_t>(bytes.size());
+    const bool wrote = size == 0 || GIOWrite(file, bytes.data(), size, &done) == 1;
+    const bool closed = GIOClose(file) == 1;
+    if (wrote && closed && GIORename(part.c_str(), name.c_str(), G_RENAME_REPLACE) == 1) {
+        return true;
+    }
+    GIORemove(part.c_str(), 0);
+    return false;
+}
 
 ProgramFile::ProgramFile(const std::u16string& path) : path_(path) {
     bytes_ = readFile(path);
@@ -52,12 +72,7 @@ std::u16string ProgramFile::line(int32_t number) const {
     while (end > start && bytes_[end - 1] == '\r') {
         --end;
     }
-    std::u16string text(end - start, u'\0');
-    const int32_t units =
-        GRCMultiByteToUnicode(bytes_.data() + start, static_cast<int32_t>(end - start), text.data(),
-                              static_cast<int32_t>(text.size()));
-    text.resize(static_cast<size_t>(std::max(units, 0)));
-    return text;
+    return decoded(std::string_view(bytes_).substr(start, end - start));
 }
 
 std::vector<std::u16string> programNames() {
@@ -66,7 +81,7 @@ std::vector<std::u16string> programNames() {
     GIOGetDirectory(u".", entries.data(), count);
     std::vector<std::u16string> names;
     for (const GDirectoryEntry& entry : entries) {
-        if (looksLikeProgram(entry)) {
+        if ((entry.attributes & G_FILE_DIRECTORY) == 0 && isProgramName(entry.name)) {
             names.emplace_back(entry.name);
         }
     }

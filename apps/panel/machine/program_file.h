@@ -29,6 +29,12 @@ class ProgramFile {
     std::vector<size_t> starts_; ///< of lines
 };
 
+/// Whether a name is that of a part program: by its extension, and without a folder.
+bool isProgramName(const std::u16string& name);
+
+/// Writes a program below the platform's file root, all of it or nothing.
+bool writeProgram(const std::u16string& name, const std::string& bytes);
+
 /// Names of the files in the platform's file root that look like part programs, sorted.
 std::vector<std::u16string> programNames();
 

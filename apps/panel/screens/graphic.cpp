@@ -61,7 +61,7 @@ class GraphicScreen : public Screen {
     std::unique_ptr<Layer> layer_;
     std::optional<View> view_;
     ToolPath path_;
-    std::u16string traced_; ///< path of the program that it is of
+    int32_t traced_ = 0; ///< the program that it is of, as Context counts them
     Box3 work_ = kEmptyWork;
     Progress progress_;
     size_t drawn_ = 0; ///< moves that are drawn as done
@@ -78,7 +78,7 @@ void GraphicScreen::open() {
         view_.emplace(Projection::Isometric, layer_->size());
         view_->fit(work_);
     }
-    if (traced_ != context_.program.path()) {
+    if (traced_ != context_.programsRead) {
         trace();
     }
     progress_.follow(path_, context_.now);
@@ -107,7 +107,7 @@ void GraphicScreen::layOut() {
 }
 
 void GraphicScreen::trace() {
-    traced_ = context_.program.path();
+    traced_ = context_.programsRead;
     toolpath::Remarks remarks;
     path_ = toolpath::tracePath(context_.program.bytes(), remarks);
     work_ = path_.moves.empty() ? kEmptyWork : toolpath::machinedBox(path_);
@@ -131,7 +131,7 @@ void GraphicScreen::drawLayer() {
 }
 
 void GraphicScreen::update() {
-    if (traced_ != context_.program.path()) {
+    if (traced_ != context_.programsRead) {
         trace();
     }
     if (progress_.follow(path_, context_.now)) {

@@ -41,6 +41,7 @@ class ProgramScreen : public Screen {
     void updateText();
     void follow();
     void choose(bool choosing);
+    void updateNames();
     void openChosen();
     bool scroll(int32_t first);
     void drawLine(int32_t row, GRect place) const;
@@ -48,11 +49,13 @@ class ProgramScreen : public Screen {
 
     Card card_;
     List text_;
-    int32_t line_ = 0; ///< the one that is shown as running, from 1
+    int32_t shown_ = 0; ///< the program, as Context counts them
+    int32_t line_ = 0;  ///< the one that is shown as running, from 1
     bool follows_ = true;
     bool choosing_ = false;
     List names_;
-    std::vector<std::u16string> programs_;
+    std::vector<std::u16string> own_; ///< names of the panel's programs
+    std::vector<StoredProgram> programs_;
     int32_t chosen_ = 0;
     std::optional<GPoint> drag_; ///< where the pointer took hold
     int32_t dragFirst_ = 0;
@@ -89,13 +92,16 @@ void ProgramScreen::update() {
     details_.show(Line, joined({wholeText(now.line), u" / ", wholeText(context_.program.lines())}),
                   context_.damage);
     details_.show(Time, spanText(now.runTime), context_.damage);
-    if (!choosing_) {
+    if (choosing_) {
+        updateNames();
+    } else {
         updateText();
     }
 }
 
 void ProgramScreen::updateText() {
-    if (text_.count() != context_.program.lines()) {
+    if (shown_ != context_.programsRead) {
+        shown_ = context_.programsRead;
         text_.setCount(context_.program.lines());
         follows_ = true;
         context_.damage.add(card_.rect);
@@ -153,19 +159,44 @@ bool ProgramScreen::isOn(Action action) const {
 void ProgramScreen::choose(bool choosing) {
     choosing_ = choosing;
     if (choosing) {
-        programs_ = programNames();
-        names_.setCount(static_cast<int32_t>(programs_.size()));
+        context_.store.list();
+        own_ = programNames();
         chosen_ = 0;
+        updateNames();
     }
     context_.damage.add(card_.rect);
 }
 
-void ProgramScreen::openChosen() {
-    if (chosen_ < names_.count()) {
-        context_.orders.give(chooseProgram(programs_[static_cast<size_t>(chosen_)]));
-        follows_ = true;
-        choose(false);
+/// Servers tell what they have when they can: it stands behind the panel's own.
+void ProgramScreen::updateNames() {
+    std::vector<StoredProgram> programs;
+    for (const std::u16string& name : own_) {
+        programs.push_back({Store::Panel, name});
     }
+    const std::vector<StoredProgram> listed = context_.store.listed();
+    programs.insert(programs.end(), listed.begin(), listed.end());
+    if (programs != programs_) {
+        programs_ = std::move(programs);
+        names_.setCount(static_cast<int32_t>(programs_.size()));
+        context_.damage.add(card_.rect);
+    }
+}
+
+void ProgramScreen::openChosen() {
+    if (chosen_ >= names_.count()) {
+        return;
+    }
+    const StoredProgram& program = programs_[static_cast<size_t>(chosen_)];
+    if (program.store == Store::Panel) {
+        context_.fetches.reset();
+        context_.openProgram(program.name);
+    } else {
+        context_.fetches = program;
+        context_.tell(u"Fetching", false);
+        context_.store.fetch(program);
+    }
+    follows_ = true;
+    choose(false);
 }
 
 bool ProgramScreen::key(int32_t key) {
@@ -241,14 +272,18 @@ void ProgramScreen::drawLine(int32_t row, GRect place) const {
 }
 
 void ProgramScreen::drawName(int32_t row, const GRect& place) const {
+    const StoredProgram& program = programs_[static_cast<size_t>(row)];
     const bool chosen = row == chosen_;
     if (chosen) {
         painter().plate(place, Ink::Accent, Ink::Accent);
     }
-    GRect name = place;
-    takeLeft(name, 2 * measures().padding);
+    const GRect name = inside(place, 2 * measures().padding, 0);
     painter().text(name, {Face::Text, chosen ? Ink::AccentText : Ink::Text, Align::Left},
-                   programs_[static_cast<size_t>(row)]);
+                   program.name);
+    if (program.store != Store::Panel) {
+        painter().text(name, {Face::Label, chosen ? Ink::AccentText : Ink::TextFaint, Align::Right},
+                       text(program.store == Store::DataServer ? u"DataServer" : u"WebServer"));
+    }
 }
 
 } // namespace

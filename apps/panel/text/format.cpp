@@ -2,6 +2,7 @@
 
 #include <quarlo/quarlo.h>
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -86,6 +87,14 @@ std::u16string joined(std::initializer_list<std::u16string_view> parts) {
 
 std::u16string wide(std::string_view text) {
     return {text.begin(), text.end()};
+}
+
+std::u16string decoded(std::string_view bytes) {
+    std::u16string text(bytes.size(), u'\0'); // a unit a byte at most
+    const auto room = static_cast<int32_t>(bytes.size());
+    const int32_t units = GRCMultiByteToUnicode(bytes.data(), room, text.data(), room);
+    text.resize(static_cast<size_t>(std::max(units, 0)));
+    return text;
 }
 
 bool parseNumber(const std::u16string& text, double& value) {

@@ -31,6 +31,9 @@ std::u16string joined(std::initializer_list<std::u16string_view> parts);
 /// ASCII as UTF-16.
 std::u16string wide(std::string_view text);
 
+/// Bytes of the configured code page as UTF-16.
+std::u16string decoded(std::string_view bytes);
+
 /// The number that a text spells in full.
 /// @return whether it spells one
 bool parseNumber(const std::u16string& text, double& value);
