@@ -2,6 +2,7 @@
 #include "vnc/served_display.h"
 #include "vnc/viewer.h"
 
+#include "support/listening.h"
 #include "unique_fd.h"
 
 #include <arpa/inet.h>
@@ -9,10 +10,7 @@
 #include <sys/socket.h>
 
 #include <chrono>
-#include <filesystem>
-#include <fstream>
 #include <set>
-#include <sstream>
 
 namespace {
 
@@ -56,44 +54,11 @@ std::string hear(const UniqueFd& connection, size_t count) {
     return text;
 }
 
-/// Inodes of the sockets that this process has open.
-std::set<std::string> ownSockets() {
-    std::set<std::string> inodes;
-    for (const auto& entry : std::filesystem::directory_iterator("/proc/self/fd")) {
-        std::error_code gone;
-        const std::string target = std::filesystem::read_symlink(entry, gone).string();
-        if (target.starts_with("socket:[")) {
-            inodes.insert(target.substr(8, target.size() - 9));
-        }
-    }
-    return inodes;
-}
-
-/// Local addresses, as the kernel prints them, at which this process listens.
-std::vector<std::string> listening() {
-    constexpr const char* kListens = "0A";
-    const auto own = ownSockets();
-    std::vector<std::string> addresses;
-    for (const char* const table : {"/proc/self/net/tcp", "/proc/self/net/tcp6"}) {
-        std::ifstream file(table);
-        for (std::string line; std::getline(file, line);) {
-            std::istringstream words(line);
-            std::string slot, local, remote, state, queues, timer, retries, user, timeout, inode;
-            words >> slot >> local >> remote >> state >> queues >> timer >> retries >> user >>
-                timeout >> inode;
-            if (state == kListens && own.contains(inode)) {
-                addresses.push_back(local.substr(0, local.find(':')));
-            }
-        }
-    }
-    return addresses;
-}
-
 TEST(VncAddress, IsLoopbackAlone) {
     EXPECT_EQ(listening(), std::vector<std::string>());
     const ServedDisplay display(with({}));
     ASSERT_TRUE(display.started());
-    EXPECT_EQ(listening(), std::vector<std::string>{"0100007F"});
+    EXPECT_EQ(listening(), std::vector<std::string>{"127.0.0.1"});
 }
 
 TEST(VncAddress, BeyondLoopbackNeedsAPassword) {
