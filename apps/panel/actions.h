@@ -21,6 +21,7 @@ enum class Action : uint8_t {
     ShowDiagnosis,
     ShowSettings,
     ShowHelp,
+    ShowService,
     SwitchKeys, ///< between the row of screens and the functions of the screen in view
     // The machine.
     CycleStart,

@@ -3,6 +3,7 @@
 
 #include "actions.h"
 #include "alarm_log.h"
+#include "builder/builder_module.h"
 #include "counters.h"
 #include "damage.h"
 #include "look/painter.h"
@@ -33,6 +34,7 @@ struct Context {
     Damage damage;
     OrderQueue orders;
     ProgramStore store;
+    BuilderModule builder;
     AlarmLog alarms;
     Counters counters;
 

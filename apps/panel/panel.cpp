@@ -15,7 +15,7 @@ constexpr uint32_t kMovingInterval = 50; // milliseconds between looks at a mach
 constexpr uint32_t kRestingInterval = 200;
 constexpr uint32_t kSecond = 1000;
 
-constexpr SoftKey kScreenKeys[] = {
+constexpr std::array<SoftKey, 9> kScreenKeys{{
     {Action::ShowPosition, u"Position", PANEL_ICONS_HANDWHEEL},
     {Action::ShowProgram, u"Program", PANEL_ICONS_PROGRAM},
     {Action::ShowGraphic, u"Graphic", PANEL_ICONS_GRAPHIC},
@@ -25,7 +25,8 @@ constexpr SoftKey kScreenKeys[] = {
     {Action::ShowDiagnosis, u"Diagnosis", PANEL_ICONS_TOOL},
     {Action::ShowSettings, u"Settings", PANEL_ICONS_SETTINGS},
     {Action::ShowHelp, u"Help", PANEL_ICONS_HELP},
-};
+}};
+constexpr SoftKey kToService{Action::ShowService, u"Service", PANEL_ICONS_LOCK};
 constexpr SoftKey kToFunctions{Action::SwitchKeys, u"Functions", PANEL_ICONS_RAPID};
 constexpr SoftKey kToScreens{Action::SwitchKeys, u"Screens", PANEL_ICONS_HOME};
 
@@ -261,7 +262,7 @@ void Panel::open(Action action) {
         screen = makeScreen(action, context_);
     }
     if (screen == nullptr) {
-        return; // no screen's action
+        return; // no screen's action, or one of a module that is not there
     }
     if (screen_ != nullptr) {
         screen_->close();
@@ -278,9 +279,13 @@ void Panel::showKeys(bool functions) {
     showsFunctions_ = functions;
     if (functions) {
         keys_.show(screen_->keys(), kToScreens);
-    } else {
-        keys_.show(kScreenKeys, kToFunctions);
+        return;
     }
+    auto screens = kScreenKeys;
+    if (context_.builder.screen() != nullptr) {
+        screens.back() = kToService; // help has a key of the keyboard, and one of the start page
+    }
+    keys_.show(screens, kToFunctions);
 }
 
 void Panel::choose(size_t language) {

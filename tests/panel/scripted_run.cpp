@@ -7,7 +7,10 @@
 namespace panel::test {
 
 gpi::test::Environment::Values ScriptedRun::settings() const {
-    return {{"QUARLO_WIDTH", width}, {"QUARLO_HEIGHT", height}, {"QUARLO_FORMAT", format}};
+    return {{"QUARLO_WIDTH", width},
+            {"QUARLO_HEIGHT", height},
+            {"QUARLO_FORMAT", format},
+            {"QUARLO_MODULES", modules.empty() ? "none" : PANEL_MODULES}};
 }
 
 size_t ScriptedRun::languageIndex() const {
@@ -39,6 +42,7 @@ std::vector<ScriptedRun> scriptedRuns() {
         std::istringstream words(line);
         words >> run.folder >> run.script >> run.width >> run.height >> run.format >> run.language;
         if (words && run.folder[0] != '#') {
+            words >> run.modules;
             all.push_back(run);
         }
     }

@@ -17,8 +17,9 @@ struct ScriptedRun {
     std::string height;
     std::string format;
     std::string language;
+    std::string modules; ///< empty for none
 
-    /// Of the display.
+    /// Of the platform.
     gpi::test::Environment::Values settings() const;
     /// Of kLanguages.
     size_t languageIndex() const;

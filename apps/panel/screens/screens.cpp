@@ -24,6 +24,8 @@ std::unique_ptr<Screen> makeScreen(Action action, Context& context) {
         return makeSettingsScreen(context);
     case Action::ShowHelp:
         return makeHelpScreen(context);
+    case Action::ShowService:
+        return makeServiceScreen(context);
     default:
         return nullptr;
     }

@@ -17,8 +17,10 @@ std::unique_ptr<Screen> makeAlarmsScreen(Context& context);
 std::unique_ptr<Screen> makeDiagnosisScreen(Context& context);
 std::unique_ptr<Screen> makeSettingsScreen(Context& context);
 std::unique_ptr<Screen> makeHelpScreen(Context& context);
+/// Null where the machine builder has none.
+std::unique_ptr<Screen> makeServiceScreen(Context& context);
 
-/// The screen that an action shows; null for any other action.
+/// The screen that an action shows; null where there is none.
 std::unique_ptr<Screen> makeScreen(Action action, Context& context);
 
 } // namespace panel
