@@ -41,6 +41,14 @@ flags=$(pkg-config --cflags --libs quarlo gpi)
 "$work/consumer/draw_c"
 "$work/consumer/draw_cpp"
 
+# The module finds the libraries that were installed with it.
+env -u LD_LIBRARY_PATH PYTHONPATH="$prefix/lib/python3/dist-packages" python3 -c '
+import quarlo
+with quarlo.Display() as display:
+    display.fill(display.area, 0xFFFFFF)
+    assert quarlo.raw.GDGetPixel(display.handle, 0, 0) == display.pixel_value(0xFFFFFF)
+'
+
 # The manual.
 groff -man -Tascii "$prefix/share/man/man3/GDLineTo.3" >"$work/page.txt"
 grep -q 'void GDLineTo(GDrawHandle\* handle, int16_t x, int16_t y);' "$work/page.txt"
