@@ -111,7 +111,7 @@ class Growth {
 /// The lines of a script that visits all there is, so that nothing is made for the first time
 /// behind it.
 std::string everyScreen() {
-    std::istringstream tour(ScriptedRun{"", "tour", "", "", "", ""}.lines());
+    std::istringstream tour(ScriptedRun{"", "tour", "", "", "", "", ""}.lines());
     std::string lines;
     for (std::string line; std::getline(tour, line);) {
         if (line.find("shot") != 0) {

@@ -105,10 +105,10 @@ TEST_P(SameFrames, DifferFromEachOther) {
 
 /// A display of each format; the first visits every screen.
 const ScriptedRun kRuns[] = {
-    {"tour_of_8_bits", "tour", "640", "480", "8", "japanese"},
-    {"touch_of_15_bits", "touch", "640", "480", "555", "english"},
-    {"damage_of_16_bits", "damage", "640", "480", "565", "english"},
-    {"damage_of_24_bits", "damage", "800", "600", "24", "chinese"},
+    {"tour_of_8_bits", "tour", "640", "480", "8", "japanese", ""},
+    {"touch_of_15_bits", "touch", "640", "480", "555", "english", ""},
+    {"damage_of_16_bits", "damage", "640", "480", "565", "english", ""},
+    {"damage_of_24_bits", "damage", "800", "600", "24", "chinese", ""},
 };
 
 INSTANTIATE_TEST_SUITE_P(Runs, SameFrames, testing::ValuesIn(kRuns),
