@@ -1,8 +1,8 @@
 #include "gcode/expression.h"
 
+#include "gcode/decimal.h"
 #include "gcode/text.h"
 
-#include <charconv>
 #include <cmath>
 #include <limits>
 #include <numbers>
@@ -43,8 +43,7 @@ Value takeNumber(std::string_view& text) {
         return {};
     }
     double value = 0.0;
-    const auto [end, error] =
-        std::from_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed);
+    const auto [end, error] = readDecimal(text.data(), text.data() + text.size(), value);
     if (error == std::errc::invalid_argument) {
         return {};
     }

@@ -1,5 +1,7 @@
 #include "text/format.h"
 
+#include "gcode/decimal.h"
+
 #include <quarlo/quarlo.h>
 
 #include <algorithm>
@@ -17,9 +19,8 @@ std::string spelled(double value, int decimals) {
     const double scale = std::pow(10.0, decimals);
     const double rounded = std::round(value * scale) / scale;
     std::array<char, 64> digits;
-    const auto end =
-        std::to_chars(digits.data(), digits.data() + digits.size(), rounded == 0.0 ? 0.0 : rounded,
-                      std::chars_format::fixed, decimals);
+    const auto end = gcode::writeDecimal(digits.data(), digits.data() + digits.size(),
+                                         rounded == 0.0 ? 0.0 : rounded, decimals);
     return end.ec == std::errc() ? std::string(digits.data(), end.ptr) : "#";
 }
 
@@ -103,7 +104,7 @@ bool parseNumber(const std::u16string& text, double& value) {
         narrow += unit < 0x80 ? static_cast<char>(unit) : '?';
     }
     const char* const end = narrow.data() + narrow.size();
-    const auto parsed = std::from_chars(narrow.data(), end, value, std::chars_format::fixed);
+    const auto parsed = gcode::readDecimal(narrow.data(), end, value);
     return parsed.ec == std::errc() && parsed.ptr == end && std::isfinite(value);
 }
 
