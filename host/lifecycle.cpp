@@ -23,7 +23,7 @@ GWord startPlatform(GWord configuration) {
                 std::make_unique<Profiles>(settings.profiles, settings.userProfiles, self.codePage);
             self.modules = std::make_unique<ModuleStore>(settings.modules);
             self.programs = std::make_unique<ProgramStore>(settings.programs, settings.files);
-            self.network = std::make_unique<Network>(settings);
+            self.network = makeNetwork(settings);
             self.messages.clear();
             self.input.reset();
             self.wholeStrings = settings.wholeStrings;

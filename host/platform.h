@@ -14,7 +14,7 @@
 #include "message/message_queue.h"
 #include "module/module_store.h"
 #include "nc/controller.h"
-#include "net/network.h"
+#include "net/make_network.h"
 #include "profile/profiles.h"
 #include "text/code_page.h"
 
@@ -49,7 +49,7 @@ struct Platform {
     std::unique_ptr<Profiles> profiles;
     std::unique_ptr<ModuleStore> modules;
     std::unique_ptr<ProgramStore> programs;
-    std::unique_ptr<Network> network;
+    std::shared_ptr<Network> network; ///< null also where there is none
     std::unique_ptr<nc::Controller> controller;
 };
 

@@ -31,3 +31,6 @@ build_packages="g++ cmake ninja-build pkg-config libsdl2-dev libpng-dev libsimpl
     libturbojpeg0-dev libfreetype-dev libfontconfig-dev libcurl4-openssl-dev \
     libvncserver-dev libdrm-dev \
     fonts-vlgothic fonts-wqy-zenhei fonts-dejavu-core"
+
+# What building for browsers takes beside it.
+web_packages="emscripten dpkg-dev patch xz-utils"

@@ -80,6 +80,7 @@ int main(int argc, char** argv) {
     panel::PanelOptions start;
     start.language = options->language.value_or(panel::keptLanguage());
     start.program = options->program;
+    start.rate = options->rate;
     if (!panel::canPaint()) {
         std::cerr << "panel: there is no display, or no font\n";
         GDQuitPlatform();

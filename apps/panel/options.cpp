@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <string_view>
 
 namespace panel {
@@ -15,6 +16,14 @@ std::optional<size_t> languageNamed(std::string_view name) {
         return std::nullopt;
     }
     return static_cast<size_t>(found - kLanguageNames.begin());
+}
+
+std::optional<uint32_t> rateOf(std::string_view text) {
+    uint32_t rate = 0;
+    const char* const end = text.data() + text.size();
+    const auto [stop, error] = std::from_chars(text.data(), end, rate);
+    const bool sound = error == std::errc() && stop == end && rate >= 5 && rate <= 100;
+    return sound ? std::optional(rate) : std::nullopt;
 }
 
 } // namespace
@@ -35,6 +44,12 @@ std::optional<Options> parseOptions(int argc, char** argv) {
             if (!options.language) {
                 return std::nullopt;
             }
+        } else if (word == "--rate" && value != nullptr) {
+            const auto rate = rateOf(argv[++i]);
+            if (!rate) {
+                return std::nullopt;
+            }
+            options.rate = *rate;
         } else if (word.substr(0, 1) != "-" && options.program.empty()) {
             options.program = word;
         } else {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 
@@ -12,15 +13,17 @@ struct Options {
     std::string shots = ".";        ///< folder of a script's pictures
     std::optional<size_t> language; ///< of kLanguages; none for the one that was used last
     std::string program;            ///< chosen at the start, empty for none
+    uint32_t rate = 20;             ///< looks at a machine that moves, a second
     bool measure = false;
 };
 
 inline constexpr const char* kUsage =
-    R"(usage: panel [--language english|japanese|chinese] [--script FILE [--shots FOLDER]]
-             [--measure] [PROGRAM]
+    R"(usage: panel [--language english|japanese|chinese] [--rate N]
+             [--script FILE [--shots FOLDER]] [--measure] [PROGRAM]
 
 The operator panel of a milling machine. PROGRAM is a part program below
-QUARLO_FILES. --script drives the panel by the commands of a file, with a clock of
+QUARLO_FILES. --rate is how often a second the panel looks at a machine that moves,
+5 to 100 times, 20 if it is not said. --script drives the panel by the commands of a file, with a clock of
 its own, and puts its pictures into FOLDER. --measure tells how long drawing takes.
 )";
 

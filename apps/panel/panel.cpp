@@ -11,8 +11,7 @@
 namespace panel {
 namespace {
 
-constexpr uint32_t kMovingInterval = 50; // milliseconds between looks at a machine that moves
-constexpr uint32_t kRestingInterval = 200;
+constexpr uint32_t kRestingInterval = 200; // milliseconds between looks at a machine at rest
 constexpr uint32_t kSecond = 1000;
 
 constexpr std::array<SoftKey, 9> kScreenKeys{{
@@ -306,7 +305,7 @@ void Panel::readMachine() {
     }
     context_.alarms.follow(readAlarms(context_.now.alarms), GETime(nullptr));
     const bool moves = context_.now.online && context_.now.state == G_NC_STATE_RUNNING;
-    const uint32_t interval = moves ? kMovingInterval : kRestingInterval;
+    const uint32_t interval = moves ? kSecond / options_.rate : kRestingInterval;
     if (interval != machineInterval_) {
         GEKillTimer(kPanel, MachineTimer);
         GESetTimer(kPanel, MachineTimer, interval);

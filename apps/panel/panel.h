@@ -20,6 +20,7 @@ struct PanelOptions {
     bool scripted = false; ///< time is a script's, and orders are carried out at once
     size_t language = 0;   ///< of kLanguages
     std::string program;   ///< to be chosen, empty for none
+    uint32_t rate = 20;    ///< looks at a machine that moves, a second
     uint64_t (*microseconds)() =
         nullptr;                   ///< measures redraws; null where nothing is to be measured
     std::function<void()> onFrame; ///< called behind the end of each frame, if there is something

@@ -4,6 +4,7 @@
 
 #include <dirent.h>
 #include <fcntl.h>
+#include <sys/stat.h>
 
 #include <algorithm>
 #include <cerrno>
@@ -95,13 +96,35 @@ std::vector<GDirectoryEntry> listFolder(const Root& root, const std::u16string& 
     return entries;
 }
 
+namespace {
+
+bool rename(const Place& from, const Place& to) {
+    return renameat(from.folder.get(), from.name.c_str(), to.folder.get(), to.name.c_str()) == 0;
+}
+
+/// False also where the new name is taken.
+bool renameToNew(const Place& from, const Place& to) {
+#ifdef RENAME_NOREPLACE
+    return renameat2(from.folder.get(), from.name.c_str(), to.folder.get(), to.name.c_str(),
+                     RENAME_NOREPLACE) == 0;
+#else // in a page, where nobody else could take it meanwhile
+    struct stat taken {};
+    if (fstatat(to.folder.get(), to.name.c_str(), &taken, AT_SYMLINK_NOFOLLOW) == 0) {
+        errno = EEXIST;
+        return false;
+    }
+    return rename(from, to);
+#endif
+}
+
+} // namespace
+
 void renameFile(const Place& from, const Place& to, uint32_t flags) {
     if ((flags & ~static_cast<uint32_t>(G_RENAME_REPLACE)) != 0) {
         throw IoError(G_IO_ARGUMENT);
     }
-    const unsigned int how = (flags & G_RENAME_REPLACE) != 0 ? 0 : RENAME_NOREPLACE;
-    if (renameat2(from.folder.get(), from.name.c_str(), to.folder.get(), to.name.c_str(), how) !=
-        0) {
+    const bool replaces = (flags & G_RENAME_REPLACE) != 0;
+    if (!(replaces ? rename(from, to) : renameToNew(from, to))) {
         throwSystemError();
     }
 }

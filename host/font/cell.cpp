@@ -13,14 +13,14 @@ void Cell::embolden() {
 }
 
 std::vector<uint8_t> Cell::packed(int bits) const {
-    const int stride = (width_ * bits + 7) / 8;
+    const auto stride = static_cast<size_t>((width_ * bits + 7) / 8);
     const int most = (1 << bits) - 1;
-    std::vector<uint8_t> rows(static_cast<size_t>(stride) * height_);
+    std::vector<uint8_t> rows(stride * static_cast<size_t>(height_));
     for (int y = 0; y < height_; ++y) {
         for (int x = 0; x < width_; ++x) {
             const int level = (at(x, y) * most + 127) / 255;
             const int bit = x * bits;
-            uint8_t& byte = rows[static_cast<size_t>(y) * stride + bit / 8];
+            uint8_t& byte = rows[static_cast<size_t>(y) * stride + static_cast<size_t>(bit / 8)];
             byte = static_cast<uint8_t>(byte | level << (8 - bits - bit % 8));
         }
     }

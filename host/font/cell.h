@@ -20,15 +20,14 @@ struct CellSize {
 /// A glyph's cell with the coverage of each pixel, 0 to 255.
 class Cell {
   public:
-    Cell(int width, int height)
-        : width_(width), height_(height), coverage_(static_cast<size_t>(width) * height) {}
+    Cell(int width, int height) : width_(width), height_(height), coverage_(area(width, height)) {}
 
     int width() const { return width_; }
     int height() const { return height_; }
 
     bool contains(int x, int y) const { return x >= 0 && x < width_ && y >= 0 && y < height_; }
-    uint8_t& at(int x, int y) { return coverage_[static_cast<size_t>(y) * width_ + x]; }
-    uint8_t at(int x, int y) const { return coverage_[static_cast<size_t>(y) * width_ + x]; }
+    uint8_t& at(int x, int y) { return coverage_[offset(x, y)]; }
+    uint8_t at(int x, int y) const { return coverage_[offset(x, y)]; }
 
     /// Widens every stroke by a pixel to the right, inside the cell.
     void embolden();
@@ -39,6 +38,11 @@ class Cell {
     std::vector<uint8_t> packed(int bits) const;
 
   private:
+    static size_t area(int width, int height) {
+        return static_cast<size_t>(width) * static_cast<size_t>(height);
+    }
+    size_t offset(int x, int y) const { return area(width_, y) + static_cast<size_t>(x); }
+
     int width_;
     int height_;
     std::vector<uint8_t> coverage_;

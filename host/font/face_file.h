@@ -1,8 +1,8 @@
 // Where a face lies.
 #pragma once
 
-#include <compare>
 #include <string>
+#include <tuple>
 
 namespace gpi {
 
@@ -11,7 +11,10 @@ struct FaceFile {
     std::string path;
     int index = 0;
 
-    auto operator<=>(const FaceFile&) const = default;
+    friend bool operator==(const FaceFile&, const FaceFile&) = default;
+    friend bool operator<(const FaceFile& a, const FaceFile& b) {
+        return std::tie(a.path, a.index) < std::tie(b.path, b.index);
+    }
 };
 
 /// From "PATH" or "PATH#INDEX".

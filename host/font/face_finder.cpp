@@ -1,3 +1,4 @@
+// By fontconfig.
 #include "font/face_finder.h"
 
 #include <fontconfig/fontconfig.h>
@@ -30,24 +31,34 @@ bool isOfFamily(const FcPattern* face, const std::string& family) {
 
 } // namespace
 
-void FaceFinder::Destroy::operator()(FcConfig* config) const {
-    FcConfigDestroy(config);
-}
+struct FaceFinder::Installed {
+    FcConfig* config = FcInitLoadConfigAndFonts();
 
-FcConfig* FaceFinder::config() {
-    if (config_ == nullptr) {
-        config_.reset(FcInitLoadConfigAndFonts());
+    Installed() = default;
+    ~Installed() { FcConfigDestroy(config); }
+    Installed(const Installed&) = delete;
+    Installed& operator=(const Installed&) = delete;
+};
+
+FaceFinder::FaceFinder() = default;
+FaceFinder::~FaceFinder() = default;
+
+const FaceFinder::Installed& FaceFinder::installed() {
+    if (installed_ == nullptr) {
+        installed_ = std::make_unique<Installed>();
     }
-    return config_.get();
+    return *installed_;
 }
 
+/// Fontconfig finds some face for every name: one of another family counts as none.
 std::optional<FaceFile> FaceFinder::find(const std::string& family) {
+    FcConfig* const config = installed().config;
     const Pattern wanted(FcPatternCreate());
     FcPatternAddString(wanted.get(), FC_FAMILY, chars(family));
-    FcConfigSubstitute(config(), wanted.get(), FcMatchPattern);
+    FcConfigSubstitute(config, wanted.get(), FcMatchPattern);
     FcDefaultSubstitute(wanted.get());
     FcResult result = FcResultNoMatch;
-    const Pattern found(FcFontMatch(config(), wanted.get(), &result));
+    const Pattern found(FcFontMatch(config, wanted.get(), &result));
     FcChar8* path = nullptr;
     int index = 0;
     if (found == nullptr || !isOfFamily(found.get(), family) ||
@@ -60,7 +71,7 @@ std::optional<FaceFile> FaceFinder::find(const std::string& family) {
 
 int32_t FaceFinder::count() {
     std::set<std::string> families;
-    const FcFontSet* const fonts = FcConfigGetFonts(config(), FcSetSystem);
+    const FcFontSet* const fonts = FcConfigGetFonts(installed().config, FcSetSystem);
     for (int i = 0; fonts != nullptr && i < fonts->nfont; ++i) {
         FcChar8* name = nullptr;
         if (FcPatternGetString(fonts->fonts[i], FC_FAMILY, 0, &name) == FcResultMatch) {

@@ -1,4 +1,4 @@
-// The faces that are installed, by fontconfig.
+// The faces that are installed.
 #pragma once
 
 #include "font/face_file.h"
@@ -8,28 +8,26 @@
 #include <optional>
 #include <string>
 
-struct _FcConfig;
-
 namespace gpi {
 
 /// Finds faces by their family's name. Reads what is installed when it is first asked.
 class FaceFinder {
   public:
-    /// The upright, regular face of a family. Fontconfig finds some face for every name: one of
-    /// another family counts as none.
+    FaceFinder();
+    ~FaceFinder();
+
+    /// The upright, regular face of a family.
     std::optional<FaceFile> find(const std::string& family);
 
     /// Number of families.
     int32_t count();
 
   private:
-    struct Destroy {
-        void operator()(_FcConfig* config) const;
-    };
+    struct Installed;
 
-    _FcConfig* config();
+    const Installed& installed();
 
-    std::unique_ptr<_FcConfig, Destroy> config_;
+    std::unique_ptr<Installed> installed_;
 };
 
 } // namespace gpi

@@ -24,7 +24,7 @@ size_t hashOf(uint64_t key, size_t buckets) {
 
 GlyphCache::GlyphCache(size_t bytes)
     : capacity_(static_cast<uint32_t>(bytes / kWord)),
-      words_(std::make_unique_for_overwrite<uint64_t[]>(capacity_)),
+      words_(new uint64_t[capacity_]),
       buckets_(bucketsFor(capacity_), kNone) {}
 
 uint32_t& GlyphCache::bucketOf(uint64_t key) {

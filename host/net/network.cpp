@@ -3,6 +3,7 @@
 #include "file/file.h"
 #include "net/ftp_file.h"
 #include "net/http_request.h"
+#include "net/make_network.h"
 #include "net/text.h"
 #include "net/url.h"
 #include "platform.h"
@@ -52,6 +53,10 @@ void takeLogin(Url& url, Options& options) {
 Network& network() {
     require(platform().network != nullptr, G_NET_STATE);
     return *platform().network;
+}
+
+std::shared_ptr<Network> makeNetwork(const Settings& settings) {
+    return std::make_shared<Network>(settings);
 }
 
 Network::Network(const Settings& settings) : files_(settings.files) {
