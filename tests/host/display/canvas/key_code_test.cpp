@@ -42,7 +42,8 @@ TEST(KeyCode, OfADigitIsItsKeyShiftedOrNot) {
 
 TEST(KeyCode, HasFunctionKeys) {
     for (int number = 1; number <= 24; ++number) {
-        EXPECT_EQ(numberOf("F" + std::to_string(number)), GPI_KEY_F1 + number - 1);
+        EXPECT_EQ(numberOf(std::string("F").append(std::to_string(number))),
+                  GPI_KEY_F1 + number - 1);
     }
     for (const char* const none : {"F0", "F25", "F", "F1x", "F-1", "Fn"}) {
         EXPECT_EQ(numberOf(none), 0) << none;
