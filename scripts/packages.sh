@@ -29,7 +29,7 @@ need_packages() {
 # What building the library and the host platform takes.
 build_packages="g++ cmake ninja-build pkg-config libsdl2-dev libpng-dev libsimpleini-dev \
     libturbojpeg0-dev libfreetype-dev libfontconfig-dev libcurl4-openssl-dev \
-    libvncserver-dev libdrm-dev \
+    libvncserver-dev libdrm-dev libevdev-dev \
     fonts-vlgothic fonts-wqy-zenhei fonts-dejavu-core"
 
 # What building for browsers takes beside it.

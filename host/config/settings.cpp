@@ -113,6 +113,8 @@ Settings readSettings(const SettingSource& source) {
     reader.choice<bool>("QUARLO_VNC_VIEW_ONLY", {{"yes", true}, {"no", false}},
                         settings.vncViewOnly);
     reader.text("QUARLO_SCREEN", settings.screen);
+    reader.choice<bool>("QUARLO_SCREEN_INPUT", {{"yes", true}, {"no", false}},
+                        settings.screenInput);
     reader.text("QUARLO_FILES", settings.files);
     reader.text("QUARLO_DATA_SERVER", settings.dataServer);
     reader.text("QUARLO_PROGRAMS", settings.programs);

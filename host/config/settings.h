@@ -46,6 +46,7 @@ struct Settings {
     std::string vncPassword;                ///< QUARLO_VNC_PASSWORD: none if empty
     bool vncViewOnly = false;               ///< QUARLO_VNC_VIEW_ONLY: yes, no
     std::string screen;                     ///< QUARLO_SCREEN: device of the screen, or the first
+    bool screenInput = true;                ///< QUARLO_SCREEN_INPUT: yes, no
     std::string files = ".";                ///< QUARLO_FILES: folder that holds the program's files
     std::string dataServer = "data";        ///< QUARLO_DATA_SERVER: folder of the data server
     std::string programs = "programs";      ///< QUARLO_PROGRAMS: folder of programs

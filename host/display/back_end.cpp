@@ -19,9 +19,9 @@ std::unique_ptr<BackEnd> openBackEnd(const Settings& settings, const Frame& fram
     case DisplayKind::Vnc:
         return openVncBackEnd(settings, frame, input);
     case DisplayKind::Fbdev:
-        return openFbdevBackEnd(settings, frame);
+        return openFbdevBackEnd(settings, frame, input);
     case DisplayKind::Drm:
-        return openDrmBackEnd(settings, frame);
+        return openDrmBackEnd(settings, frame, input);
     case DisplayKind::Automatic:
         break;
     }

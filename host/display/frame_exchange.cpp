@@ -41,6 +41,10 @@ void FrameExchange::waitForEnd() {
     progress_.wait(lock, [&] { return ended_; });
 }
 
+void FrameExchange::again() {
+    change([] {});
+}
+
 void FrameExchange::confirm() {
     const std::lock_guard lock(mutex_);
     shown_ = taken_;

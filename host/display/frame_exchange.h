@@ -63,6 +63,10 @@ class FrameExchange {
         return true;
     }
 
+    /// Something beside the frame has to be shown with it: it will be handed over once more, though
+    /// none of it may have changed.
+    void again();
+
     /// What was taken is visible.
     void confirm();
 

@@ -7,7 +7,7 @@ import socket
 import subprocess
 import time
 
-PATIENCE = 60  # seconds for anything that the machine is asked
+PATIENCE = 300  # seconds for anything that the machine is asked
 
 
 class Machine:
@@ -22,6 +22,7 @@ class Machine:
             "-kernel", kernel, "-initrd", initrd,
             "-append", "console=ttyS0 quiet panic=1",
             "-vga", "none", "-device", f"VGA,edid=on,xres={width},yres={height}",
+            "-device", "virtio-tablet-pci",
             "-display", "none", "-nic", "none", "-no-reboot",
             "-serial", "file:" + os.path.join(folder, "kernel.log"),
             "-serial", f"unix:{self.shell_path},server=on,wait=on",
@@ -110,3 +111,25 @@ class Machine:
             kind, width, height, most = file.readline(), *file.readline().split(), file.readline()
             assert (kind, most) == (b"P6\n", b"255\n")
             return int(width), int(height), file.read()
+
+    # The keyboard, the mouse and the tablet in front of it.
+
+    def send(self, *events):
+        self.ask("input-send-event",
+                 events=[{"type": kind, "data": data} for kind, data in events])
+
+    def press(self, key):
+        for down in (True, False):
+            self.send(("key", {"down": down, "key": {"type": "qcode", "data": key}}))
+
+    def move_mouse(self, columns, rows):
+        self.send(("rel", {"axis": "x", "value": columns}), ("rel", {"axis": "y", "value": rows}))
+
+    def point(self, across, down):
+        """Puts the tablet's pen somewhere on the screen: 0 to 1 from the left and from the top."""
+        self.send(("abs", {"axis": "x", "value": int(across * 0x8000)}),
+                  ("abs", {"axis": "y", "value": int(down * 0x8000)}))
+
+    def click(self):
+        for down in (True, False):
+            self.send(("btn", {"down": down, "button": "left"}))

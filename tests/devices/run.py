@@ -1,16 +1,19 @@
 """Shows the display on the screens of an emulated machine, and compares what they show with what
 the same program draws into files on this computer.
 
-    run.py KERNEL INITRD PICTURES FOLDER
+    run.py KERNEL INITRD PICTURES FOLDER PANEL
 
-PICTURES holds a folder for each format of the display, and in it a PNG file of each sheet.
+PICTURES holds a folder for each format of the display, and in it a PNG file of each sheet. PANEL is
+the operator panel for this computer.
 """
 
 import hashlib
 import subprocess
 import sys
+import time
 
-from machine import Machine
+import panel_run
+from machine import PATIENCE, Machine
 
 FORMATS = ("8", "555", "565", "24")
 SHEETS = ("gradations", "pies")
@@ -66,9 +69,10 @@ class Layout:
 
 
 class Checks:
-    def __init__(self, machine, pictures):
+    def __init__(self, machine, pictures, panel_here):
         self.machine = machine
         self.pictures = pictures
+        self.panel_here = panel_here
         self.failed = 0
 
     def check(self, what, right):
@@ -90,6 +94,86 @@ class Checks:
         width, height, seen = self.machine.screen()
         rows = centred(picture(self.pictures, form, sheet), (width, height))
         return (width, height) == SCREEN and seen == b"".join(rows)
+
+    def picture_on_screen(self):
+        """The picture in the middle of the screen at its own size; None when the rest is wrong."""
+        width, height, seen = self.machine.screen()
+        factor = min(width // PICTURE[0], height // PICTURE[1])
+        left = (width - PICTURE[0] * factor) // 2
+        top = (height - PICTURE[1] * factor) // 2
+        rgb = bytearray()
+        for y in range(PICTURE[1]):
+            row = seen[3 * ((top + y * factor) * width + left):]
+            pixels = bytearray(3 * PICTURE[0])
+            for channel in range(3):
+                pixels[channel::3] = row[channel:3 * PICTURE[0] * factor:3 * factor]
+            rgb += pixels
+        return bytes(rgb) if b"".join(centred(rgb, (width, height))) == seen else None
+
+    def panel(self, display, script, form, language, device=""):
+        """Drives the panel step by step, and looks at what the screen shows after each."""
+        wanted = panel_run.checksums(self.panel_here, script, form, language)
+        self.machine.run("rm -f script; mkfifo script")
+        self.machine.say(f"QUARLO_SCREEN={device} {panel_run.settings(display, form)} panel "
+                         f"--language {language} --script script & exec 3>script")
+        seen = []
+        for at, line in enumerate(panel_run.steps(script)):
+            self.machine.say(f"echo '{line}' >&3; echo 'checksum {at}' >&3")
+            self.machine.hear(f"{at} ")
+            self.machine.hear("\n")
+            for _ in range(20 if display == "fbdev" else 1):  # its driver takes a moment
+                shown = self.picture_on_screen()
+                if shown and panel_run.checksum(shown) == wanted[at]:
+                    break
+            seen.append(panel_run.checksum(shown) if shown else None)
+        self.machine.run("exec 3>&-; wait $!")
+        same = sum(a == b for a, b in zip(seen, wanted))
+        self.check(f"{display} shows the panel's run {script} of {form} bits, {same} of "
+                   f"{len(wanted)} pictures, {len(set(wanted))} different ones", seen == wanted)
+
+    def input(self):
+        devices = ("Translated Set 2 keyboard", "Mouse", "Virtio Tablet")
+        # The mouse is found some time after its driver has come.
+        self.until(lambda: all(name in self.machine.run("cat /sys/class/input/input*/name")
+                               for name in devices))
+        for display, device in (("drm", ""), ("fbdev", self.device("bochs"))):
+            self.machine.say(f"QUARLO_SCREEN={device} {panel_run.settings(display, '24')} "
+                             "screen_probe input")
+            self.machine.hear("shown")
+            self.machine.press("a")
+            self.machine.hear("key down 65\nkey up 65\n")
+            self.machine.move_mouse(20, 30)
+            self.machine.hear("move 330,255\n")
+            self.machine.click()
+            self.machine.hear("left down 330,255 held 1\nleft up 330,255\n")
+            self.machine.point(0.25, 0.5)
+            self.machine.hear("move 160,240\n")
+            white = any(self.color(320 + 2, 512 + 4) == b"\xff\xff\xff" for _ in range(20))
+            self.check(f"{display} shows an arrow where the pointer is", white)
+            self.machine.point(0.75, 0.75)  # a device tells of changes only
+            self.machine.hear("move 480,368\n")
+            self.machine.press("q")
+            self.machine.run("true")
+            self.check(f"{display} hands on keys, mouse and tablet", True)
+
+    @staticmethod
+    def until(condition):
+        """Waits until something holds that nothing tells of."""
+        deadline = time.monotonic() + PATIENCE
+        while not condition():
+            if time.monotonic() > deadline:
+                raise RuntimeError("waited in vain")
+
+    def color(self, x, y):
+        width, _, seen = self.machine.screen()
+        return seen[3 * (y * width + x):][:3]
+
+    def panel_by_keys(self):
+        self.machine.say(f"{panel_run.settings('drm', '565')} panel; echo panel ended $?")
+        self.until(lambda: self.color(640, 512) != bytes(3))
+        self.machine.press("q")
+        self.machine.hear("panel ended 0")
+        self.check("Q on the keyboard ends the panel", True)
 
     def drm(self):
         for form in FORMATS:
@@ -168,9 +252,13 @@ class Checks:
 
 
 def main():
-    kernel, initrd, pictures, folder = sys.argv[1:]
+    kernel, initrd, pictures, folder, panel = sys.argv[1:]
     with Machine(kernel, initrd, folder, *SCREEN) as machine:
-        checks = Checks(machine, pictures)
+        checks = Checks(machine, pictures, panel)
+        checks.input()
+        checks.panel_by_keys()
+        checks.panel("drm", "tour", "8", "japanese")
+        checks.panel("fbdev", "touch", "555", "english", checks.device("bochs"))
         checks.drm()
         checks.whole_frames()
         checks.fbdev_on_screen()

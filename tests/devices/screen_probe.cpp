@@ -1,5 +1,6 @@
 // Runs inside the emulated machine: shows pictures on its screens, and tells about them.
 #include "display.h"
+#include "input/message_reader.h"
 #include "page.h"
 #include "sheet.h"
 
@@ -24,6 +25,7 @@ namespace {
 constexpr const char* kUsage =
     R"(usage: screen_probe show SHEET    shows a sheet of the gallery until a line is typed
        screen_probe frames        shows one colour after the other until a line is typed
+       screen_probe input         prints what keys and pointer do, until Q is pressed
        screen_probe console       tells whether the console is in text or graphics mode
        screen_probe mode DEVICE [WIDTH HEIGHT BITS]
                                   tells, or first sets, what a frame buffer's memory looks like
@@ -86,6 +88,20 @@ int frames() {
     return EXIT_SUCCESS;
 }
 
+int input() {
+    GetGPIFunction();
+    if (GDInitPlatform(0) == 0) {
+        return EXIT_FAILURE;
+    }
+    std::cout << "shown" << std::endl;
+    GMessage message{};
+    while (message.param1 != 'Q' && GPIHostWaitMessage(&message, -1) != 0) {
+        std::cout << gpi::test::textOf(message) << std::endl;
+    }
+    GDQuitPlatform();
+    return EXIT_SUCCESS;
+}
+
 int console() {
     const int device = open("/dev/tty0", O_RDWR | O_CLOEXEC);
     int mode = -1;
@@ -134,6 +150,9 @@ int main(int argc, char** argv) {
     }
     if (command == "frames") {
         return frames();
+    }
+    if (command == "input") {
+        return input();
     }
     if (command == "console") {
         return console();

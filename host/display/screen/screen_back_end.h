@@ -6,9 +6,10 @@
 namespace gpi {
 
 /// Shows the display in the middle of a screen, enlarged by the largest whole factor that fits.
-/// A thread of its own writes the screen's memory. Null, and one line is reported, when there is no
-/// screen to be had.
-std::unique_ptr<BackEnd> openFbdevBackEnd(const Settings& settings, const Frame& frame);
-std::unique_ptr<BackEnd> openDrmBackEnd(const Settings& settings, const Frame& frame);
+/// A thread of its own writes the screen's memory and reads the computer's input devices. Null, and
+/// one line is reported, when there is no screen to be had.
+std::unique_ptr<BackEnd> openFbdevBackEnd(const Settings& settings, const Frame& frame,
+                                          Input& input);
+std::unique_ptr<BackEnd> openDrmBackEnd(const Settings& settings, const Frame& frame, Input& input);
 
 } // namespace gpi

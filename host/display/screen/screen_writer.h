@@ -1,10 +1,12 @@
 // Frames into the memory of a screen.
 #pragma once
 
+#include "display/area.h"
 #include "display/damage.h"
 #include "display/frame_exchange.h"
 #include "display/projection.h"
 #include "display/screen/screen_device.h"
+#include "display/screen/screen_pointer.h"
 
 #include <vector>
 
@@ -16,6 +18,11 @@ class ScreenWriter {
   public:
     ScreenWriter(ScreenDevice& device, Size frame);
 
+    /// Where input devices point; shown with the next frame that is written.
+    ScreenPointer& pointer() { return pointer_; }
+    const ScreenPointer& pointer() const { return pointer_; }
+    bool pointerHasMoved() const { return !sameArea(pointer_.arrow(), arrow_); }
+
     /// Takes a frame over into a buffer that is not seen, if there is one.
     void write(const FrameExchange::News& news);
 
@@ -23,12 +30,15 @@ class ScreenWriter {
     void show();
 
   private:
+    void addMissing(const GRect& area);
     void writeArea(const FrameExchange::News& news, const ScreenBuffer& buffer, const GRect& area);
 
     ScreenDevice& device_;
     Size frame_;
     PixelPacker packer_;
     Projection projection_;
+    ScreenPointer pointer_;
+    GRect arrow_;                 ///< what of the screen the pointer covers as it was written last
     std::vector<Damage> missing_; ///< what each buffer has not got yet
     std::vector<uint32_t> row_;
     size_t next_; ///< the buffer to write to

@@ -1,6 +1,7 @@
 #include "display/vnc/vnc_server.h"
 
-#include "display/vnc/vnc_input.h"
+#include "display/input_source.h"
+#include "display/vnc/keysym.h"
 
 #include <poll.h>
 #include <sys/select.h>
@@ -18,8 +19,16 @@ VncServer& serverOf(rfbClientPtr client) {
     return *static_cast<VncServer*>(client->screen->screenData);
 }
 
-VncInput& inputOf(rfbClientPtr client) {
-    return *static_cast<VncInput*>(client->clientData);
+InputSource& inputOf(rfbClientPtr client) {
+    return *static_cast<InputSource*>(client->clientData);
+}
+
+/// The buttons that a viewer holds: its bit 0 is the left one, bit 2 the right one.
+uint8_t heldOf(int buttons) {
+    const auto left = static_cast<uint8_t>(buttons & 1);
+    const auto right = static_cast<uint8_t>(buttons >> 2 & 1);
+    static_assert(static_cast<int>(Button::Left) == 1 && static_cast<int>(Button::Right) == 2);
+    return static_cast<uint8_t>(left | right << 1);
 }
 
 } // namespace
@@ -161,7 +170,7 @@ void VncServer::takeOver(const FrameExchange::News& news) {
 
 rfbNewClientAction VncServer::onCome(rfbClientPtr client) {
     VncServer& self = serverOf(client);
-    client->clientData = new VncInput(self.input_);
+    client->clientData = new InputSource(self.input_);
     client->clientGoneHook = onGo;
     client->viewOnly = self.viewOnly_ ? TRUE : FALSE;
     self.viewers_.push_back(client);
@@ -178,11 +187,13 @@ rfbCursorPtr VncServer::cursorOf(rfbClientPtr client) {
 }
 
 void VncServer::onKey(rfbBool down, rfbKeySym symbol, rfbClientPtr client) {
-    inputOf(client).key(symbol, down != FALSE);
+    if (const auto key = keyOfSymbol(symbol)) {
+        inputOf(client).key(*key, down != FALSE);
+    }
 }
 
 void VncServer::onPointer(int buttons, int x, int y, rfbClientPtr client) {
-    inputOf(client).pointer(serverOf(client).projection_.pixelAt(x, y), buttons);
+    inputOf(client).pointer(serverOf(client).projection_.pixelAt(x, y), heldOf(buttons));
 }
 
 } // namespace gpi

@@ -123,6 +123,13 @@ TEST(Settings, NameAScreen) {
     EXPECT_EQ(Read().settings.screen, "/dev/fb1");
 }
 
+TEST(Settings, TellWhetherInputDevicesAreRead) {
+    const Environment environment(nothing());
+    EXPECT_TRUE(Read().settings.screenInput);
+    const Environment none{{"QUARLO_SCREEN_INPUT", "no"}};
+    EXPECT_FALSE(Read().settings.screenInput);
+}
+
 TEST(Settings, ChooseTheControl) {
     const Environment environment(nothing());
     EXPECT_EQ(Read().settings.control, ControlKind::Sim);

@@ -24,6 +24,7 @@ Environment::Values settings(const Environment::Values& changes) {
                              "QUARLO_VNC_PASSWORD",
                              "QUARLO_VNC_VIEW_ONLY",
                              "QUARLO_SCREEN",
+                             "QUARLO_SCREEN_INPUT",
                              "QUARLO_MEMORY_LIMIT",
                              "QUARLO_PANEL_FONT",
                              "QUARLO_JAPANESE_FONT",

@@ -1,6 +1,8 @@
 // Frames in the memory of a screen that is made up.
 #include "display/screen/screen_writer.h"
 
+#include "display/arrow.h"
+
 #include "support/random_calls.h"
 
 #include <gtest/gtest.h>
@@ -114,6 +116,14 @@ class Screen : public testing::TestWithParam<Kind> {
         writer_.show();
     }
 
+    /// What of the arrow is in a place of the screen.
+    char arrowAt(int x, int y) const {
+        const GRect arrow = writer_.pointer().arrow();
+        return contains(arrow, x, y)
+                   ? kArrow[static_cast<size_t>((y - arrow.top) * kArrowWidth + x - arrow.left)]
+                   : ' ';
+    }
+
     /// What the screen has to show of the frame, pixel by pixel.
     void expectFrame(const View& view) const {
         const Size screen = device_.size();
@@ -123,8 +133,10 @@ class Screen : public testing::TestWithParam<Kind> {
             for (int x = 0; x < screen.width; ++x) {
                 const Projection::Pixel from = projection.pixelAt(x, y);
                 const uint8_t* const bytes = frame_.at(from.x, from.y);
-                const uint32_t rgb =
+                uint32_t rgb =
                     from.beside ? 0 : uint32_t{bytes[0]} << 16 | uint32_t{bytes[1]} << 8 | bytes[2];
+                const char arrow = arrowAt(x, y);
+                rgb = arrow == 'o' ? 0xFFFFFF : arrow == '#' ? 0 : rgb;
                 uint32_t expected = 0;
                 packer.pack(&rgb, 1, reinterpret_cast<uint8_t*>(&expected));
                 ASSERT_EQ(device_.at(x, y), expected) << x << ' ' << y << " seed " << testSeed();
@@ -169,6 +181,45 @@ TEST_P(Screen, ShowsTheViewThatIsSet) {
     show();
     expectFrame(View());
     EXPECT_TRUE(device_.paddingIsUntouched());
+}
+
+TEST_P(Screen, ShowsAnArrowOverTheFrame) {
+    ScreenPointer& pointer = writer_.pointer();
+    EXPECT_FALSE(writer_.pointerHasMoved());
+    for (int round = 0; round < 100; ++round) {
+        pointer.moveBy(random_.between(-9, 9), random_.between(-9, 9));
+        if (random_.oneIn(2)) {
+            change(1);
+        }
+        frames_.again();
+        show();
+        EXPECT_FALSE(writer_.pointerHasMoved());
+        expectFrame(View());
+    }
+    pointer.moveTo(0.5, 0.5, false);
+    EXPECT_TRUE(writer_.pointerHasMoved()) << "it has gone";
+    frames_.again();
+    show();
+    expectFrame(View());
+    EXPECT_TRUE(device_.paddingIsUntouched());
+}
+
+TEST(Arrow, IsLargerOnLargeScreens) {
+    constexpr Size kFrame{800, 600};
+    constexpr Size kScreen{1600, 1200};
+    ScreenPointer pointer(Projection(View(), kFrame, kScreen), kFrame, kScreen);
+    pointer.moveTo(0.25, 0.5, true);
+    EXPECT_TRUE(sameArea(pointer.arrow(),
+                         {400, 600, 400 + 2 * kArrowWidth - 1, 600 + 2 * kArrowHeight - 1}));
+    uint32_t row[6];
+    std::fill(std::begin(row), std::end(row), 0x123456U);
+    pointer.draw(605, 399, 6, row); // its third row: an edge, inside, an edge
+    EXPECT_EQ(row[0], 0x123456U);
+    EXPECT_EQ(row[1], 0U);
+    EXPECT_EQ(row[2], 0U);
+    EXPECT_EQ(row[3], 0xFFFFFFU);
+    EXPECT_EQ(row[4], 0xFFFFFFU);
+    EXPECT_EQ(row[5], 0U);
 }
 
 INSTANTIATE_TEST_SUITE_P(
