@@ -35,7 +35,8 @@ class File {
 
   private:
     struct Close {
-        void operator()(std::FILE* stream) const { std::fclose(stream); }
+        // Closing that matters goes through close(), which tells what was lost.
+        void operator()(std::FILE* stream) const { static_cast<void>(std::fclose(stream)); }
     };
 
     enum class Direction { None, Reading, Writing };

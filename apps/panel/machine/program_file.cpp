@@ -55,8 +55,7 @@ bool writeProgram(const std::u16string& name, const std::string& bytes) {
     return false;
 }
 
-ProgramFile::ProgramFile(const std::u16string& path) : path_(path) {
-    bytes_ = readFile(path);
+ProgramFile::ProgramFile(const std::u16string& path) : path_(path), bytes_(readFile(path)) {
     for (size_t start = 0; start < bytes_.size(); ++start) {
         starts_.push_back(start);
         start = std::min(bytes_.find('\n', start), bytes_.size());
