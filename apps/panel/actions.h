@@ -76,7 +76,7 @@ enum class Action : uint8_t {
 struct SoftKey {
     Action action = Action::None;
     Word label = u"";
-    Icon icon = kNoIcon;
+    Icon icon = 0;
 };
 
 /// A key of the keyboard with an action of its own, on every screen that does not use it.

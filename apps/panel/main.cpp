@@ -9,6 +9,7 @@
 #include <quarlo/quarlo.h>
 
 #include <chrono>
+#include <cstdlib>
 #include <fstream>
 #include <iostream>
 
@@ -52,6 +53,18 @@ ExitStatus runMeasure(panel::PanelOptions start, uint64_t begin) {
     return kDone;
 }
 
+/// Says where the texts of a language were looked for, if there are none.
+void reportTexts(size_t language) {
+    if (!panel::Texts::keysOf(language).empty()) {
+        return;
+    }
+    const std::u16string file = panel::kLanguages[language].file;
+    const char* const folder = std::getenv("QUARLO_PROFILES");
+    std::cerr << "panel: no " << std::string(file.begin(), file.end()) << " in "
+              << (folder != nullptr ? folder : "the folder of profiles")
+              << " (QUARLO_PROFILES): in English\n";
+}
+
 ExitStatus runPanel(panel::PanelOptions start) {
     start.microseconds = microseconds;
     panel::Panel panel(start);
@@ -86,6 +99,7 @@ int main(int argc, char** argv) {
         GDQuitPlatform();
         return kFailed;
     }
+    reportTexts(start.language);
     const ExitStatus status = options->script    ? runScript(*options, start)
                               : options->measure ? runMeasure(start, begin)
                                                  : runPanel(start);

@@ -25,9 +25,9 @@ constexpr std::array<SoftKey, 9> kScreenKeys{{
     {Action::ShowSettings, u"Settings", PANEL_ICONS_SETTINGS},
     {Action::ShowHelp, u"Help", PANEL_ICONS_HELP},
 }};
-constexpr SoftKey kToService{Action::ShowService, u"Service", PANEL_ICONS_LOCK};
+constexpr SoftKey kToService{Action::ShowService, u"Service", PANEL_ICONS_SERVICE};
 constexpr SoftKey kToFunctions{Action::SwitchKeys, u"Functions", PANEL_ICONS_RAPID};
-constexpr SoftKey kToScreens{Action::SwitchKeys, u"Screens", PANEL_ICONS_HOME};
+constexpr SoftKey kToScreens{Action::SwitchKeys, u"Screens", PANEL_ICONS_SCREENS};
 
 /// The display, cut into strips.
 struct Strips {
@@ -213,7 +213,7 @@ void Panel::onKey(int32_t key, uint32_t count) {
     if (key >= GPI_KEY_F1 && key < GPI_KEY_F1 + static_cast<int32_t>(SoftKeys::kCount)) {
         const auto place = static_cast<size_t>(key - GPI_KEY_F1);
         keys_.press(place);
-        act(keys_.action(place));
+        act(keys_.key(place).action);
     } else if (!screen_->key(key)) {
         const KeyBinding* const binding = bindingOf(key);
         if (binding != nullptr) {
@@ -226,7 +226,7 @@ void Panel::onPointer(PointerAction action, GPoint at) {
     const auto key = keys_.at(at);
     if (action == PointerAction::Press && key) {
         keys_.press(key);
-        act(keys_.action(*key));
+        act(keys_.key(*key).action);
         return;
     }
     if (action == PointerAction::Release) {
@@ -289,6 +289,9 @@ void Panel::showKeys(bool functions) {
 
 void Panel::choose(size_t language) {
     context_.texts.choose(language);
+    if (!context_.texts.hasProfile()) {
+        context_.tell(u"NoTexts", true);
+    }
     if (screen_ != nullptr) {
         screen_->open();
     }

@@ -47,6 +47,7 @@ class Panel {
     const Context& context() const { return context_; }
     /// The screen in view.
     const Screen& screen() const { return *screen_; }
+    const SoftKeys& keys() const { return keys_; }
 
   private:
     enum Timer : uint16_t { MachineTimer, SecondTimer };

@@ -25,7 +25,7 @@ RINGS = (ACCENT, 0x58D8F0, 0x58D878, 0xFFD840)
 KEYS = (
     ("PowerUp", "lock"), ("Reference", "home"), ("Position", "handwheel"), ("Program", "program"),
     ("CycleStart", "cycle-start"), ("Reset", "reset"), ("Language", "language"), ("Help", "help"),
-    ("EmergencyKey", "emergency-stop"), ("Screens", "home"),
+    ("EmergencyKey", "emergency-stop"), ("Screens", "screens"),
 )
 COMMANDS = {  # of the keys that do something here
     0: (raw.G_NC_SYSTEM_POWER, 1),

@@ -6,8 +6,8 @@ NAMES = frozenset({
     "chinese_font", "code_page", "data_server", "display", "files", "format", "glyph_cache",
     "height", "japanese_font", "memory_limit", "modules", "nc", "nc_helper", "net_ca_file",
     "net_connect_timeout", "net_idle_timeout", "net_proxy", "net_redirects", "panel_font", "png",
-    "profiles", "programs", "scale", "screen", "title", "user_profiles", "vnc_address",
-    "vnc_password", "vnc_port", "vnc_view_only", "whole_strings", "width",
+    "profiles", "programs", "scale", "screen", "screen_input", "title", "user_profiles",
+    "vnc_address", "vnc_password", "vnc_port", "vnc_view_only", "whole_strings", "width",
 })
 
 

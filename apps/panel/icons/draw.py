@@ -328,9 +328,90 @@ def lock(pen):
     pen.line((16, 21), (16, 24))
 
 
+def cube(pen, top, front, side):
+    pen.shape(top, (16, 3), (28, 9), (16, 15), (4, 9))
+    pen.shape(front, (4, 9), (16, 15), (16, 29), (4, 23))
+    pen.shape(side, (16, 15), (28, 9), (28, 23), (16, 29))
+
+
+def plan(pen):
+    cube(pen, BLUE, WHITE, WHITE)
+
+
+def elevation(pen):
+    cube(pen, WHITE, BLUE, WHITE)
+
+
+def isometric(pen):
+    cube(pen, LIGHT, BLUE, GREY)
+
+
+def lens(pen):
+    pen.line((19, 19), (27, 27), width=5)
+    pen.disc(WHITE, 13, 13, 9)
+
+
+def zoom_in(pen):
+    lens(pen)
+    pen.line((9, 13), (17, 13), rgb=BLUE)
+    pen.line((13, 9), (13, 17), rgb=BLUE)
+
+
+def zoom_out(pen):
+    lens(pen)
+    pen.line((9, 13), (17, 13), rgb=BLUE)
+
+
+def zoom_fit(pen):
+    for x, y in ((1, 1), (-1, 1), (-1, -1), (1, -1)):
+        pen.line((16 - 12 * x, 16 - 6 * y), (16 - 12 * x, 16 - 12 * y), (16 - 6 * x, 16 - 12 * y))
+    pen.box(BLUE, 10, 11, 22, 21)
+
+
+def clear(pen):
+    pen.shape(WHITE, (4, 20), (10, 14), (19, 23), (15, 27), (11, 27))
+    pen.shape(BLUE, (10, 14), (20, 4), (29, 13), (19, 23))
+    pen.line((15, 27), (27, 27))
+
+
+def block_skip(pen):
+    pen.box(GOLD, 11, 17, 21, 27)
+    pen.line((14, 25), (18, 19))
+    pen.arc(INK, 16, 16, 11, 180, 345)
+    pen.shape(INK, (24, 14), (29, 14), (26.5, 18))
+
+
+def optional_stop(pen):
+    pen.shape(RED, (11, 3), (21, 3), (29, 11), (29, 21), (21, 29), (11, 29), (3, 21), (3, 11))
+    pen.line((13, 12), (17, 9), (17, 23), rgb=WHITE, width=3)
+
+
+def dry_run(pen):
+    drop(pen, BLUE, 16, 3, 9, 26)
+    pen.line((5, 27), (27, 5), width=6)
+    pen.line((5, 27), (27, 5), rgb=RED, width=3)
+
+
+def service(pen):
+    pen.shape(GREY, (24, 3), (18, 4), (15, 10), (17, 14), (4, 25), (8, 29), (19, 17), (23, 18),
+              (28, 15), (29, 9), (24, 12), (20, 8))
+
+
+def history(pen):
+    pen.disc(WHITE, 16, 16, 13)
+    pen.line((16, 8), (16, 16), (22, 19), rgb=BLUE)
+
+
+def screens(pen):
+    for left, top, fill in ((4, 4, BLUE), (18, 4, WHITE), (4, 18, WHITE), (18, 18, WHITE)):
+        pen.box(fill, left, top, left + 10, top + 10)
+
+
 ICONS = (home, cycle_start, feed_hold, reset, single_block, jog_plus, jog_minus, rapid, handwheel,
          spindle_cw, spindle_ccw, spindle_stop, coolant, tool, offsets, alarm, program, graphic,
-         edit, settings, language, lock, emergency_stop, help_)
+         edit, settings, language, lock, emergency_stop, help_, plan, elevation, isometric, zoom_in,
+         zoom_out, zoom_fit, clear, block_skip, optional_stop, dry_run, service, history,
+         screens)
 
 
 def draw_palette(path):

@@ -1,4 +1,4 @@
-# The panel's icons, in the order of their tables.
+# Icons for programs beside the panel, which takes all of them; in the order of their tables.
 set(panel_icons
     home cycle-start feed-hold reset single-block jog-minus jog-plus rapid handwheel
     spindle-cw spindle-ccw spindle-stop coolant tool offsets alarm program graphic

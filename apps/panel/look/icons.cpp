@@ -27,11 +27,8 @@ Icons::Icons(GDrawHandle* display) {
 }
 
 void Icons::draw(GDrawHandle* handle, Icon icon, int x, int y) const {
-    if (icon != kNoIcon) {
-        const GGrfImage& image = images_[static_cast<size_t>(icon)];
-        GDDrawGrf(handle, &image, image.data, static_cast<int16_t>(x), static_cast<int16_t>(y), 0,
-                  0);
-    }
+    const GGrfImage& image = images_[static_cast<size_t>(icon)];
+    GDDrawGrf(handle, &image, image.data, static_cast<int16_t>(x), static_cast<int16_t>(y), 0, 0);
 }
 
 } // namespace panel

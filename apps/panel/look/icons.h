@@ -12,7 +12,6 @@ namespace panel {
 
 /// A place in the table of pictures.
 using Icon = int16_t;
-inline constexpr Icon kNoIcon = -1;
 
 /// Icons come with palettes of 24-bit values. Here they have those of the display.
 class Icons {

@@ -47,7 +47,7 @@ void SoftKeys::draw(const GRect& area) const {
 void SoftKeys::drawKey(size_t key) const {
     const Painter& painter = context_.painter;
     const SoftKey& shown = keys_[key];
-    GRect face = inside(place(key), kGap / 2);
+    const GRect face = inside(place(key), kGap / 2);
     if (shown.action == Action::None) {
         painter.plate(face, Ink::KeyBlank, Ink::KeyBlank);
         return;
@@ -61,14 +61,15 @@ void SoftKeys::drawKey(size_t key) const {
     if (on_[key]) {
         painter.fill(box(strip.left, face.top + 2, widthOf(strip), kStripHeight), Ink::Accent);
     }
-    GRect label = face;
-    if (shown.icon != kNoIcon) {
-        label = takeBottom(face, painter.measures().height(Face::Label) + 2 * kGap);
-        context_.icons.draw(painter.handle(), shown.icon,
-                            face.left + (widthOf(face) - Icons::kSize) / 2,
-                            face.bottom - Icons::kSize + 1);
-    }
-    painter.text(label, {Face::Label, Ink::Text, Align::Centre}, context_.texts[shown.label]);
+    const GRect caption = captionPlace(key);
+    context_.icons.draw(painter.handle(), shown.icon,
+                        face.left + (widthOf(face) - Icons::kSize) / 2, caption.top - Icons::kSize);
+    painter.text(caption, {Face::Label, Ink::Text, Align::Centre}, context_.texts[shown.label]);
+}
+
+GRect SoftKeys::captionPlace(size_t key) const {
+    GRect face = inside(place(key), kGap / 2);
+    return takeBottom(face, context_.painter.measures().height(Face::Label) + 2 * kGap);
 }
 
 std::optional<size_t> SoftKeys::at(GPoint point) const {

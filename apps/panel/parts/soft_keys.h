@@ -25,7 +25,9 @@ class SoftKeys {
 
     /// Which key is at a point.
     std::optional<size_t> at(GPoint point) const;
-    Action action(size_t key) const { return keys_[key].action; }
+    const SoftKey& key(size_t place) const { return keys_[place]; }
+    /// Where its caption stands.
+    GRect captionPlace(size_t key) const;
     /// Shows a key as pressed, or none.
     void press(std::optional<size_t> key);
 

@@ -9,8 +9,8 @@ namespace {
 
 constexpr SoftKey kKeys[] = {
     {Action::ActiveAlarms, u"ActiveAlarms", PANEL_ICONS_ALARM},
-    {Action::AlarmHistory, u"AlarmHistory", PANEL_ICONS_PROGRAM},
-    {Action::ClearAlarm, u"ClearAlarm", PANEL_ICONS_EDIT},
+    {Action::AlarmHistory, u"AlarmHistory", PANEL_ICONS_HISTORY},
+    {Action::ClearAlarm, u"ClearAlarm", PANEL_ICONS_CLEAR},
     {Action::Reset, u"Reset", PANEL_ICONS_RESET},
 };
 

@@ -9,7 +9,7 @@ namespace {
 
 constexpr SoftKey kKeys[] = {
     {Action::ShowDamage, u"ShowDamage", PANEL_ICONS_GRAPHIC},
-    {Action::ClearCounters, u"ClearCounters", PANEL_ICONS_EDIT},
+    {Action::ClearCounters, u"ClearCounters", PANEL_ICONS_CLEAR},
 };
 
 struct Row {

@@ -16,13 +16,13 @@ namespace {
 constexpr SoftKey kKeys[] = {
     {Action::CycleStart, u"CycleStart", PANEL_ICONS_CYCLE_START},
     {Action::FeedHold, u"FeedHold", PANEL_ICONS_FEED_HOLD},
-    {Action::ViewPlan, u"ViewPlan"},
-    {Action::ViewElevation, u"ViewElevation"},
-    {Action::ViewIsometric, u"ViewIsometric"},
-    {Action::ZoomIn, u"ZoomIn"},
-    {Action::ZoomOut, u"ZoomOut"},
-    {Action::ZoomFit, u"ZoomFit"},
-    {Action::ClearGraphic, u"ClearGraphic"},
+    {Action::ViewPlan, u"ViewPlan", PANEL_ICONS_PLAN},
+    {Action::ViewElevation, u"ViewElevation", PANEL_ICONS_ELEVATION},
+    {Action::ViewIsometric, u"ViewIsometric", PANEL_ICONS_ISOMETRIC},
+    {Action::ZoomIn, u"ZoomIn", PANEL_ICONS_ZOOM_IN},
+    {Action::ZoomOut, u"ZoomOut", PANEL_ICONS_ZOOM_OUT},
+    {Action::ZoomFit, u"ZoomFit", PANEL_ICONS_ZOOM_FIT},
+    {Action::ClearGraphic, u"ClearGraphic", PANEL_ICONS_CLEAR},
 };
 
 constexpr double kZoom = 1.25;

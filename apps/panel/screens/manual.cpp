@@ -15,7 +15,7 @@ namespace {
 constexpr SoftKey kKeys[] = {
     {Action::RunBlock, u"RunBlock", PANEL_ICONS_CYCLE_START},
     {Action::FeedHold, u"FeedHold", PANEL_ICONS_FEED_HOLD},
-    {Action::UnsetValue, u"ClearBlock", PANEL_ICONS_EDIT},
+    {Action::UnsetValue, u"ClearBlock", PANEL_ICONS_CLEAR},
     {Action::Reset, u"Reset", PANEL_ICONS_RESET},
 };
 

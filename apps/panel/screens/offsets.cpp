@@ -14,7 +14,7 @@ constexpr SoftKey kKeys[] = {
     {Action::ToolOffsets, u"ToolOffsets", PANEL_ICONS_TOOL},
     {Action::Macros, u"Macros", PANEL_ICONS_PROGRAM},
     {Action::EditValue, u"EditValue", PANEL_ICONS_EDIT},
-    {Action::UnsetValue, u"UnsetValue", PANEL_ICONS_RESET},
+    {Action::UnsetValue, u"UnsetValue", PANEL_ICONS_CLEAR},
 };
 
 constexpr size_t kLongestValue = 14; // characters

@@ -14,9 +14,9 @@ constexpr SoftKey kKeys[] = {
     {Action::Reset, u"Reset", PANEL_ICONS_RESET},
     {Action::OpenProgram, u"OpenProgram", PANEL_ICONS_PROGRAM},
     {Action::FollowProgram, u"FollowProgram", PANEL_ICONS_TOOL},
-    {Action::BlockSkip, u"BlockSkip"},
-    {Action::OptionalStop, u"OptionalStop"},
-    {Action::DryRun, u"DryRun"},
+    {Action::BlockSkip, u"BlockSkip", PANEL_ICONS_BLOCK_SKIP},
+    {Action::OptionalStop, u"OptionalStop", PANEL_ICONS_OPTIONAL_STOP},
+    {Action::DryRun, u"DryRun", PANEL_ICONS_DRY_RUN},
 };
 
 constexpr Word kDetailNames[] = {u"ProgramLine", u"Tool", u"RunTime"};

@@ -13,9 +13,9 @@ constexpr SoftKey kKeys[] = {
     {Action::UseEnglish, u"LanguageEnglish", PANEL_ICONS_LANGUAGE},
     {Action::UseJapanese, u"LanguageJapanese", PANEL_ICONS_LANGUAGE},
     {Action::UseChinese, u"LanguageChinese", PANEL_ICONS_LANGUAGE},
-    {Action::BlockSkip, u"BlockSkip"},
-    {Action::OptionalStop, u"OptionalStop"},
-    {Action::DryRun, u"DryRun"},
+    {Action::BlockSkip, u"BlockSkip", PANEL_ICONS_BLOCK_SKIP},
+    {Action::OptionalStop, u"OptionalStop", PANEL_ICONS_OPTIONAL_STOP},
+    {Action::DryRun, u"DryRun", PANEL_ICONS_DRY_RUN},
 };
 
 constexpr Word kDisplayNames[] = {u"Size", u"Depth", u"Format"};

@@ -20,14 +20,18 @@ inline constexpr std::array<Language, 3> kLanguages{{{u"LanguageEnglish", u"engl
                                                      {u"LanguageJapanese", u"japanese.ini", false},
                                                      {u"LanguageChinese", u"chinese.ini", true}}};
 
-/// The texts of a language, from its profile: section "Texts", a line each text.
+/// The texts of a language, from its profile: section "Texts", a line each text. What it lacks is
+/// English.
 class Texts {
   public:
     /// Reads a language, and has fonts show its forms of ideographs.
     void choose(size_t language);
     size_t language() const { return language_; }
 
-    /// A text, or its key where the profile has none.
+    /// Whether the language has a profile; without, all of it is English.
+    bool hasProfile() const { return hasProfile_; }
+
+    /// A text, or its key where there is none.
     const std::u16string& operator[](Word key) const;
 
     /// Keys that were asked for and are not there.
@@ -43,6 +47,7 @@ class Texts {
     };
 
     size_t language_ = 0;
+    bool hasProfile_ = false;
     std::vector<Text> texts_; ///< sorted by key
     mutable std::vector<std::u16string> missing_;
 };
