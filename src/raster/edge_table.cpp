@@ -175,7 +175,7 @@ void EdgeTable::sortByColumn() {
     };
     const auto lowOf = [=](uint32_t number) { return columnOf(number) % (1U << kPairBits); };
     const auto highOf = [=](uint32_t number) { return columnOf(number) >> kPairBits; };
-    const int bits = std::bit_width(static_cast<uint32_t>(last - first));
+    const int bits = static_cast<int>(std::bit_width(static_cast<uint32_t>(last - first)));
     if (bits <= kPairBits) {
         sortByDigits((bits + 1) / 2, columnOf);
     } else {

@@ -4,7 +4,8 @@ foreach(file IN ITEMS
         ${fonts}/vlgothic/VL-Gothic-Regular.ttf@${fonts}/vlgothic/VL-Gothic-Regular.ttf
         ${fonts}/wqy/wqy-zenhei.ttc@${fonts}/wqy/wqy-zenhei.ttc
         ${CMAKE_CURRENT_SOURCE_DIR}/profiles@/profiles
-        ${CMAKE_CURRENT_SOURCE_DIR}/programs@/files)
+        ${CMAKE_CURRENT_SOURCE_DIR}/programs@/files
+        ${CMAKE_CURRENT_SOURCE_DIR}/data_server@/data_server)
     target_link_options(panel PRIVATE "SHELL:--preload-file ${file}")
 endforeach()
 
