@@ -26,10 +26,12 @@ need_packages() {
     ' sh $missing
 }
 
+# The libraries that the host platform stands on.
+host_libraries="libsdl2-dev libpng-dev libsimpleini-dev libturbojpeg0-dev libfreetype-dev \
+    libfontconfig-dev libcurl4-openssl-dev libvncserver-dev libdrm-dev libevdev-dev"
+
 # What building the library and the host platform takes.
-build_packages="g++ cmake ninja-build pkg-config libsdl2-dev libpng-dev libsimpleini-dev \
-    libturbojpeg0-dev libfreetype-dev libfontconfig-dev libcurl4-openssl-dev \
-    libvncserver-dev libdrm-dev libevdev-dev \
+build_packages="g++ cmake ninja-build pkg-config $host_libraries \
     fonts-vlgothic fonts-wqy-zenhei fonts-dejavu-core"
 
 # What building for browsers takes beside it.

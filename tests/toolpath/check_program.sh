@@ -1,10 +1,11 @@
 #!/bin/sh
 # What the program says and how it ends, for programs that can be drawn and for those that cannot.
 #
-#     check_program.sh TOOLPATH SCRATCH_DIRECTORY
+#     check_program.sh RUN TOOLPATH SCRATCH_DIRECTORY
 set -eu
-toolpath=$1
-scratch=$2
+run=$1
+toolpath=$2
+scratch=$3
 export QUARLO_DISPLAY=png QUARLO_PNG="$scratch/picture.png"
 mkdir -p "$scratch"
 
@@ -19,7 +20,7 @@ run() {
     shift
     rm -f "$QUARLO_PNG"
     status=0
-    "$toolpath" "$@" >"$scratch/out" 2>"$scratch/err" </dev/null || status=$?
+    "$run" "$toolpath" "$@" >"$scratch/out" 2>"$scratch/err" </dev/null || status=$?
     [ "$status" = "$expected" ] || fail "status $status instead of $expected for: $*"
 }
 
