@@ -87,7 +87,9 @@ const prepare = (module) => {
       }
     };
   });
+  const initialized = module.onRuntimeInitialized;
   module.onRuntimeInitialized = () => {
+    initialized();
     if (held !== null) {
       module._GPIHostHoldClock(held);
     }

@@ -51,6 +51,17 @@ class Held(unittest.TestCase):
     def test_chinese(self):
         self.choose_language(Keys.F3, "1024", "768", "24", "chinese-1024x768-24")
 
+    def test_settings_are_kept(self):
+        settings = {"QUARLO_FORMAT": "8", **SMALL}
+        page = Page(self.driver, self.url, settings, ["--rate", "20"], held=True)
+        page.wait_for_start()
+        page.key(Keys.F7)  # settings
+        page.key(Keys.F2)  # japanese
+        page.key(Keys.ESCAPE)
+        page.wait_for_picture("japanese-640x480-8", "start")
+        self.driver.refresh()
+        page.wait_for_picture("japanese-640x480-8", "start")
+
     def operate_by(self, kind):
         page = self.open({"QUARLO_FORMAT": "555", **SMALL})
         kept = "touch-640x480-555"
