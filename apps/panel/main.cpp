@@ -8,6 +8,8 @@
 #include <gpi/host.h>
 #include <quarlo/quarlo.h>
 
+#include <time.h>
+
 #include <chrono>
 #include <cstdlib>
 #include <fstream>
@@ -42,14 +44,25 @@ ExitStatus runScript(const panel::Options& options, panel::PanelOptions start) {
     return kDone;
 }
 
-/// @param begin of the process, in microseconds
-ExitStatus runMeasure(panel::PanelOptions start, uint64_t begin) {
+/// Of the drawing thread, so that other programs do not count.
+uint64_t processorMicroseconds() {
+    timespec used{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &used);
+    return static_cast<uint64_t>(used.tv_sec) * 1'000'000 +
+           static_cast<uint64_t>(used.tv_nsec) / 1000;
+}
+
+ExitStatus runMeasure(panel::PanelOptions start) {
+    start.microseconds = processorMicroseconds;
+    {
+        panel::Panel panel(start);
+        panel::measureStart(std::cout);
+        panel::measureIdle(panel, std::cout);
+    }
     GPIHostHoldClock(kScriptTime);
     start.scripted = true;
-    start.microseconds = microseconds;
     panel::Panel panel(start);
-    std::cout << "first frame after " << (microseconds() - begin) / 1000 << " ms\n";
-    panel::measure(panel, std::cout);
+    panel::measureDrawing(panel, std::cout);
     return kDone;
 }
 
@@ -79,7 +92,6 @@ ExitStatus runPanel(panel::PanelOptions start) {
 } // namespace
 
 int main(int argc, char** argv) {
-    const uint64_t begin = microseconds();
     const auto options = panel::parseOptions(argc, argv);
     if (!options) {
         std::cerr << panel::kUsage;
@@ -101,7 +113,7 @@ int main(int argc, char** argv) {
     }
     reportTexts(start.language);
     const ExitStatus status = options->script    ? runScript(*options, start)
-                              : options->measure ? runMeasure(start, begin)
+                              : options->measure ? runMeasure(start)
                                                  : runPanel(start);
     return GDQuitPlatform() != 0 ? status : kFailed;
 }

@@ -2,15 +2,23 @@
 
 #include <gpi/host.h>
 
+#include <sys/resource.h>
+#include <time.h>
+#include <unistd.h>
+
 #include <algorithm>
+#include <chrono>
+#include <fstream>
 #include <iomanip>
 #include <string>
+#include <thread>
 #include <vector>
 
 namespace panel {
 namespace {
 
 constexpr int kTimes = 41;
+constexpr int kIdleSeconds = 10;
 constexpr uint32_t kSecond = 1000;
 
 void press(Panel& panel, int32_t key) {
@@ -50,13 +58,70 @@ void report(Panel& panel, std::ostream& out, const std::string& name, Do action)
         << drawn[kTimes / 2].pixels * bytes << '\n';
 }
 
+/// The words behind a name in a file of the kernel's.
+std::string wordsBehind(const std::string& name, const char* path) {
+    std::ifstream file(path);
+    std::string line;
+    while (std::getline(file, line)) {
+        if (line.compare(0, name.size(), name) == 0) {
+            return line.substr(name.size());
+        }
+    }
+    return "";
+}
+
+/// Milliseconds from the process's start to now, in steps of 10: so the kernel counts.
+long millisecondsSinceStart() {
+    constexpr int kBehindName = 20; // fields from behind the program's name to its start
+    std::ifstream stat("/proc/self/stat");
+    std::string field;
+    std::getline(stat, field, ')');
+    for (int i = 0; i < kBehindName; ++i) {
+        stat >> field;
+    }
+    const long ticks = sysconf(_SC_CLK_TCK);
+    timespec now{};
+    clock_gettime(CLOCK_BOOTTIME, &now);
+    return now.tv_sec * 1000 + now.tv_nsec / 1'000'000 - std::stol(field) * 1000 / ticks;
+}
+
+/// Of all threads of this process, in microseconds.
+int64_t processorTime() {
+    rusage used{};
+    getrusage(RUSAGE_SELF, &used);
+    const auto micros = [](const timeval& time) {
+        return int64_t{time.tv_sec} * 1'000'000 + time.tv_usec;
+    };
+    return micros(used.ru_utime) + micros(used.ru_stime);
+}
+
 std::string narrow(const std::u16string& text) {
     return {text.begin(), text.end()};
 }
 
 } // namespace
 
-void measure(Panel& panel, std::ostream& out) {
+void measureStart(std::ostream& out) {
+    out << "first frame " << millisecondsSinceStart() << " ms after the start, "
+        << processorTime() / 1000 << " ms of them at work; resident"
+        << wordsBehind("VmRSS:", "/proc/self/status") << '\n';
+}
+
+void measureIdle(Panel& panel, std::ostream& out) {
+    const int64_t before = processorTime();
+    std::thread timer([] {
+        std::this_thread::sleep_for(std::chrono::seconds(kIdleSeconds));
+        GEventMsg quit;
+        GESetEvent(*GECreateEventMessage(&quit, G_EVENT_QUIT, kPanel, 0, 0), 0);
+    });
+    panel.run();
+    timer.join();
+    const double share = static_cast<double>(processorTime() - before) / (kIdleSeconds * 1e6);
+    out << "idle, the clock going: " << std::fixed << std::setprecision(2) << share * 100
+        << " % of a core\n";
+}
+
+void measureDrawing(Panel& panel, std::ostream& out) {
     out << "                          median longest     bytes\n"
            "                              us      us   flushed\n";
     press(panel, GPI_KEY_F1); // power

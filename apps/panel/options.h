@@ -24,8 +24,8 @@ inline constexpr const char* kUsage =
 The operator panel of a milling machine. PROGRAM is a part program below
 QUARLO_FILES. --rate is how often a second the panel looks at a machine that moves,
 5 to 100 times, 20 if it is not said. --script drives the panel by the commands of a
-file, with a clock of its own, and puts its pictures into FOLDER. --measure tells how
-long drawing takes.
+file, with a clock of its own, and puts its pictures into FOLDER. --measure tells what
+starting, waiting and drawing cost.
 )";
 
 /// Nothing where the command line makes no sense.
