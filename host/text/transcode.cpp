@@ -30,6 +30,9 @@ std::optional<std::string> utf8Of(std::u16string_view text) {
 std::u16string utf16Of(std::string_view utf8) {
     Conversion conversion("UTF-8", kNativeUtf16);
     std::string out;
+    if (!conversion.isOpen()) {
+        return {}; // small systems may lack the C library's conversions
+    }
     while (!conversion.advance(utf8, out)) {
         const char16_t replacement = 0xFFFD;
         out.append(reinterpret_cast<const char*>(&replacement), 2);

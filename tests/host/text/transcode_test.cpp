@@ -1,6 +1,9 @@
 #include "text/transcode.h"
 
 #include <gtest/gtest.h>
+#include <sys/resource.h>
+
+#include <cstdlib>
 
 namespace {
 
@@ -18,6 +21,16 @@ TEST(Transcode, RefusesBrokenTextAndUnknownEncodings) {
     EXPECT_EQ(transcode("\xE8\x87", "UTF-8", "UTF-16LE"), std::nullopt);
     EXPECT_EQ(transcode("a", "no such", "UTF-8"), std::nullopt);
     EXPECT_EQ(transcode("\xE8\x87\xAA", "UTF-8", "CP1252"), std::nullopt);
+}
+
+TEST(Transcode, GivesNothingWhereTheSystemHasNoConversions) {
+    GTEST_FLAG_SET(death_test_style, "threadsafe"); // in a process that has loaded none yet
+    const auto convert = [] {
+        const rlimit none{0, 0};
+        setrlimit(RLIMIT_NOFILE, &none);
+        std::exit(utf16Of("text").empty() ? 0 : 1);
+    };
+    EXPECT_EXIT(convert(), testing::ExitedWithCode(0), "");
 }
 
 TEST(Transcode, KnowsSurrogatePairs) {
