@@ -7,6 +7,7 @@ import zlib
 
 ROOT = os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "..")
 SIZE = (640, 480)
+FONT = "/usr/share/fonts/truetype/vlgothic/VL-Gothic-Regular.ttf"
 
 
 def steps(script):
@@ -20,7 +21,8 @@ def settings(display, form):
     """Of a display in front of the panel's own files, as the shell has them."""
     return (f"QUARLO_CONFIG=/dev/null QUARLO_NC=sim QUARLO_DISPLAY={display} QUARLO_FORMAT={form} "
             f"QUARLO_WIDTH={SIZE[0]} QUARLO_HEIGHT={SIZE[1]} QUARLO_PROFILES=profiles "
-            "QUARLO_USER_PROFILES=/tmp QUARLO_FILES=programs")
+            "QUARLO_USER_PROFILES=/tmp QUARLO_FILES=programs "
+            f"QUARLO_PANEL_FONT={FONT} QUARLO_JAPANESE_FONT={FONT} QUARLO_CHINESE_FONT={FONT}")
 
 
 def checksums(panel, script, form, language):
