@@ -35,7 +35,7 @@ CanvasBackEnd::CanvasBackEnd(const Frame& frame, Input& input)
       projection_(View(), size_, size_) {
     gpiPageOpen(this, frame.width, frame.height);
     const GRect whole = wholeArea(frame.width, frame.height);
-    show(frame, {&whole, 1});
+    CanvasBackEnd::show(frame, {&whole, 1});
 }
 
 CanvasBackEnd::~CanvasBackEnd() {
