@@ -22,14 +22,15 @@ WORDS = {"true": "false", "false": "true", "min": "max", "max": "min",
 # Words that begin a declaration or control what follows, so that no statement of theirs is taken
 # out.
 KEYWORDS = {
-    "alignas", "auto", "bool", "case", "char", "class", "const", "constexpr", "consteval", "default",
-    "delete", "do", "double", "else", "enum", "explicit", "extern", "float", "for", "friend", "goto",
-    "if", "inline", "int", "long", "namespace", "operator", "private", "protected", "public",
-    "return", "short", "signed", "static", "struct", "switch", "template", "throw", "typedef",
-    "typename", "union", "unsigned", "using", "virtual", "void", "volatile", "while"}
+    "alignas", "auto", "bool", "case", "char", "class", "const", "constexpr", "consteval",
+    "default", "delete", "do", "double", "else", "enum", "explicit", "extern", "float", "for",
+    "friend", "goto", "if", "inline", "int", "long", "namespace", "operator", "private",
+    "protected", "public", "return", "short", "signed", "static", "struct", "switch", "template",
+    "throw", "typedef", "typename", "union", "unsigned", "using", "virtual", "void", "volatile",
+    "while"}
 
-CALL_OR_ASSIGNMENT = {"(", ".", "->", "[", "=", "++", "--", "+=", "-=", "*=", "/=", "%=", "&=", "|=",
-                      "^=", "<<=", ">>="}
+CALL_OR_ASSIGNMENT = {"(", ".", "->", "[", "=", "++", "--", "+=", "-=", "*=", "/=", "%=", "&=",
+                      "|=", "^=", "<<=", ">>="}
 
 
 @dataclasses.dataclass(frozen=True)

@@ -15,8 +15,8 @@ judged; a campaign that was stopped goes on there. A mutant is
     equivalent  its machine code is that of the source
     invalid     it does not compile
 
-With --coverage BUILD, a build that counts what is reached, only programs that reach a line are asked
-about it.
+With --coverage BUILD, a build that counts what is reached, only programs that reach a line are
+asked about it.
 """
 
 import argparse
