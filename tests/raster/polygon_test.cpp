@@ -69,6 +69,9 @@ TEST_F(Polygon, ReadsNothingForACountOfZeroOrLess) {
     fillOnly(drawing);
     for (const int16_t count : {int16_t{0}, int16_t{-1}, int16_t{-32768}}) {
         GPoly poly{count, nullptr, {}};
+        GDSetPenColor(drawing, G_NO_COLOR);
+        GDDrawPoly(drawing, &poly);
+        GDSetPenColor(drawing, 1);
         GDDrawPoly(drawing, &poly);
     }
     EXPECT_TRUE(platform.calls.empty());
