@@ -11,8 +11,10 @@ file(CONFIGURE OUTPUT quarlo.def CONTENT "${definitions}")
 # A library that is known by its list alone; whichever has its name answers at run time.
 function(import_library name definitions)
     set(import ${CMAKE_CURRENT_BINARY_DIR}/lib${name}.dll.a)
+    # The tool names symbols for the output as it is called, so that must say nothing of where.
     add_custom_command(OUTPUT ${import}
-        COMMAND ${CMAKE_DLLTOOL} --input-def ${definitions} --output-lib ${import}
+        COMMAND ${CMAKE_DLLTOOL} --input-def ${definitions} --output-lib lib${name}.dll.a
+        WORKING_DIRECTORY ${CMAKE_CURRENT_BINARY_DIR}
         DEPENDS ${definitions})
     add_custom_target(${name}_import DEPENDS ${import})
     add_library(${name} SHARED IMPORTED)
