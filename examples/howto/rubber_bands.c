@@ -4,12 +4,12 @@
 /* Inverts the outline of a rectangle, each pixel once. */
 void invertFrame(GDrawHandle* handle, const GRect* rect) {
     GRect hole = *rect;
-    GRect sides[4];
+    GRect sides[4] = {*rect};
     hole.left++;
     hole.top++;
     hole.right--;
     hole.bottom--;
-    const int16_t count = GRCheckRect(&hole) ? GRRestRect(rect, &hole, sides) : 0;
+    const int16_t count = GRCheckRect(&hole) ? GRRestRect(rect, &hole, sides) : 1;
     GDSetPenColor(handle, G_NO_COLOR);
     GDSetFillAttribute(handle, G_FILL_FORE, 0xFFFFFF, 0xFFFFFF);
     GDSetDrawingMode(handle, G_MODE_XOR);
