@@ -28,7 +28,7 @@ TEST(Transcode, GivesNothingWhereTheSystemHasNoConversions) {
     const auto convert = [] {
         const rlimit none{0, 0};
         setrlimit(RLIMIT_NOFILE, &none);
-        std::exit(utf16Of("text").empty() ? 0 : 1);
+        std::_Exit(utf16Of("text").empty() ? 0 : 1); // sanitizers' last checks open files
     };
     EXPECT_EXIT(convert(), testing::ExitedWithCode(0), "");
 }
