@@ -191,8 +191,7 @@ TEST_F(PanelBeforeLinuxCnc, SwitchesOnAndTakesTheReference) {
     ASSERT_TRUE(person->until([&] { return person->context().now.emergency; }));
     EXPECT_TRUE(isIn(G_NC_STATE_OFF));
     EXPECT_GT(count(person->picture("off"), status(), Ink::Fault), 0) << "the emergency stop";
-    person->press({"F1"});
-    ASSERT_TRUE(person->until([] { return isIn(G_NC_STATE_IDLE); }));
+    ASSERT_TRUE(person->pressUntil("F1", [] { return isIn(G_NC_STATE_IDLE); }));
     person->press({"F2"});
     ASSERT_TRUE(person->until([] { return isIn(G_NC_STATE_RUNNING); }));
     ASSERT_TRUE(person->until([&] { return person->context().now.homed; }));
