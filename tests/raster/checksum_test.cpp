@@ -191,7 +191,8 @@ class Shapes {
             const uint64_t count = random_.bits() % 12 + 1;
             const uint64_t units = kind == 0x40 ? count : 1;
             put(kind | count);
-            for (uint64_t byte = kind == 0 ? 1 : units * ((bits + 7U) / 8); byte > 0; --byte) {
+            for (uint64_t byte = kind == 0 ? 1 : units * (static_cast<uint64_t>(bits + 7) / 8);
+                 byte > 0; --byte) {
                 put(random_.bits());
             }
         }
