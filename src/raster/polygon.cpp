@@ -47,10 +47,12 @@ void fill(const Canvas& canvas, const GPoly& poly, uint32_t fore, uint32_t back,
 }
 
 bool isVisible(const Canvas& canvas, const GPoly& poly) {
-    GRect box{poly.points[0].x, poly.points[0].y, poly.points[0].x, poly.points[0].y};
+    const auto boxOf = [](const GPoint& point) {
+        return GRect{point.x, point.y, point.x, point.y};
+    };
+    GRect box = boxOf(poly.points[0]);
     for (int32_t i = 1; i < poly.count; ++i) {
-        const GPoint& point = poly.points[i];
-        box = unite(box, {point.x, point.y, point.x, point.y});
+        box = unite(box, boxOf(poly.points[i]));
     }
     return isValid(canvas.area) && !areDisjoint(box, canvas.area);
 }

@@ -107,6 +107,10 @@ TEST_F(Grf, FillsWholeImagesBySpansAndClippedOnesByPixels) {
     EXPECT_EQ(platform.count(6), 2U);
     EXPECT_EQ(platform.count(5), 2U);
     platform.forget();
+    draw(drawing, imageOf(4, 2), {kFill | 6, 1, 0}, 0, 0, 7, 3); // a box that leaves room
+    EXPECT_EQ(platform.count(6), 2U);
+    EXPECT_EQ(platform.count(5), 0U);
+    platform.forget();
     draw(drawing, imageOf(4, 2), {kFill | 6, 1, 0}, 8, 0);
     EXPECT_EQ(platform.count(6), 0U);
     EXPECT_EQ(platform.count(5), 4U);

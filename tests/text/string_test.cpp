@@ -36,6 +36,21 @@ TEST_F(String, MovesThePenPastEachGlyphAlsoOutOfSight) {
     EXPECT_EQ(drawing->penPos.y, 500);
 }
 
+TEST_F(String, BeginsWhereTheOriginPutsThePen) {
+    ScriptedFont font(platform);
+    const auto drawAt = [&](GPoint origin, int16_t x, int16_t y) {
+        Drawing drawing(40, 12);
+        GDSetLocalOrigin(drawing, &origin);
+        GDSetFont(drawing, font.get());
+        GDMoveTo(drawing, x, y);
+        GDDrawString(drawing, u"AB");
+        const GuardedMemory& memory = drawing.surface().memory();
+        return std::vector<uint8_t>(memory.data(), memory.data() + memory.size());
+    };
+    EXPECT_EQ(drawAt({100, 50}, 103, 52), drawAt({0, 0}, 3, 2));
+    EXPECT_NE(drawAt({0, 0}, 3, 2), drawAt({0, 0}, 4, 2));
+}
+
 TEST_F(String, TakesALineFeedForAGlyph) {
     ScriptedFont font(platform);
     Drawing drawing(40, 10);
