@@ -66,6 +66,19 @@ TEST_F(CaptionCursor, BeyondTheRightEdgeScrollsTheLine) {
     EXPECT_EQ(pixelAt(*drawing.surface(), 10 + 35, 5), 0U);
 }
 
+TEST_F(CaptionCursor, ScrollsInABoxNarrowerThanItsRoom) {
+    ScriptedFont font(platform);
+    Drawing drawing(60, 20);
+    GDSetFont(drawing, font.get());
+    const GRect rect{10, 2, 12, 18};
+    const GCaptionAttr attr{G_NO_COLOR, G_ALIGN_LEFT, G_ALIGN_TOP, 0, 0, 0, 0};
+    const GCaptionCursor cursor{G_CURSOR_BAR, 5};
+    GDDrawCaptionCursorString(drawing, &rect, &attr, &cursor, 0, u"");
+    // 3 columns: of the cursor, 4 inside the right edge, one can be seen.
+    EXPECT_EQ(pixelAt(*drawing.surface(), 10, 5), 5U);
+    EXPECT_EQ(pixelAt(*drawing.surface(), 11, 5), 0U);
+}
+
 TEST_F(CaptionCursor, LeavesItsFillStyleAndForeColor) {
     ScriptedFont font(platform);
     Drawing drawing(60, 20);
