@@ -151,6 +151,21 @@ TEST_F(Polygon, NoticesNoPatternWhereTheClipRectangleIsInverted) {
     EXPECT_EQ(platform.count(69), 0U);
 }
 
+TEST_F(Polygon, CountsPatternsRoundAndRound) {
+    const auto paint = [](int32_t pattern) {
+        Drawing drawing(16, 16);
+        const uint8_t rows[8] = {0x80, 0x41, 0x22, 0x14, 0x08, 0x15, 0x23, 0x40};
+        GDDefineFillPattern(drawing, 4, rows);
+        GPoint corners[] = {{0, 0}, {15, 0}, {15, 15}, {0, 15}};
+        const Canvas canvas(*drawing);
+        GDFillPolygon(canvas, {4, corners, {}}, 1, 2, pattern, G_MODE_COPY);
+        const GuardedMemory& memory = drawing.surface().memory();
+        return std::vector<uint8_t>(memory.data(), memory.data() + memory.size());
+    };
+    EXPECT_EQ(paint(4 + G_FILL_PATTERN_COUNT), paint(4));
+    EXPECT_NE(paint(4), paint(3));
+}
+
 TEST_F(Polygon, OfOnePointDrawsNothing) {
     Drawing drawing(4, 3);
     GDSetFillAttribute(drawing, G_FILL_FORE, 1, 2);
