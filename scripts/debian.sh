@@ -20,6 +20,7 @@ make_root() {
     packages=$4
     shift 4
     rm -rf "$folder"
+    mkdir -p "${folder%/*}"
     mmdebstrap --quiet --architectures="$architecture" --variant="$variant" --skip=check/qemu \
         --include="$packages" "$@" "$(debian_release)" "$folder" \
         "deb [signed-by=$debian_keys] $(debian_mirror) $(debian_release) main"
