@@ -9,6 +9,7 @@
 #include <netinet/in.h>
 #include <sys/socket.h>
 
+#include <algorithm>
 #include <chrono>
 #include <set>
 
@@ -28,6 +29,18 @@ void show(uint32_t grey) {
     service<GPIFillRect>(GPI_SERVICE_FILL_RECT)(nullptr, surface, &surface->bounds, grey * 0x10101,
                                                 G_MODE_COPY);
     StartedPlatform::flushAll();
+}
+
+/// Shows these greys in turn; the time that the slowest took.
+std::chrono::steady_clock::duration longestOf(uint32_t first, uint32_t last) {
+    using std::chrono::steady_clock;
+    auto longest = steady_clock::duration::zero();
+    for (uint32_t grey = first; grey <= last; ++grey) {
+        const auto start = steady_clock::now();
+        show(grey);
+        longest = std::max(longest, steady_clock::now() - start);
+    }
+    return longest;
 }
 
 /// A connection that speaks as the test wants it.
@@ -161,15 +174,12 @@ TEST(VncViewers, ThatStallDoNotStallDrawing) {
     // Enough that no buffer of the system holds it.
     const ServedDisplay display(
         {{"QUARLO_FORMAT", "24"}, {"QUARLO_WIDTH", "2560"}, {"QUARLO_HEIGHT", "2560"}});
+    const auto unseen = longestOf(1, 5);
     Viewer stalled(display.port());
     ASSERT_TRUE(stalled.connected());
     // From here on it reads nothing, and it has asked for the next picture.
-    using namespace std::chrono;
-    for (uint32_t grey = 1; grey <= 20; ++grey) {
-        const auto start = steady_clock::now();
-        show(grey);
-        EXPECT_LT(steady_clock::now() - start, seconds(2)) << "of the five that it is waited for";
-    }
+    EXPECT_LT(longestOf(6, 20), unseen + std::chrono::seconds(2))
+        << "of the five that it is waited for";
     Viewer other(display.port());
     ASSERT_TRUE(other.connected());
     EXPECT_EQ(other.at(2559, 2559), 0x141414U);
