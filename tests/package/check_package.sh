@@ -52,3 +52,6 @@ with quarlo.Display() as display:
 # The manual.
 groff -man -Tascii "$prefix/share/man/man3/GDLineTo.3" >"$work/page.txt"
 grep -q 'void GDLineTo(GDrawHandle\* handle, int16_t x, int16_t y);' "$work/page.txt"
+for program in "$prefix"/bin/*; do
+    test -s "$prefix/share/man/man1/$(basename "$program").1"
+done

@@ -135,6 +135,9 @@ TEST(Doctor, ExplainsItsUse) {
         EXPECT_EQ(report.status, 3) << arguments;
         EXPECT_EQ(report.text.rfind("usage: quarlo-doctor", 0), 0U) << report.text;
     }
+    const Report asked = examine("--help");
+    EXPECT_EQ(asked.status, 0);
+    EXPECT_EQ(asked.text, examine("--what").text);
 }
 
 /// A fault of the broken platform, and what is to be said of it.

@@ -152,6 +152,10 @@ TEST_F(GrfProgram, TellsHowItIsUsed) {
         EXPECT_EQ(misused.status, 2) << arguments;
         EXPECT_EQ(misused.messages.substr(0, 17), "usage: quarlo-grf") << arguments;
     }
+    const Outcome asked = run("--help");
+    EXPECT_EQ(asked.status, 0);
+    EXPECT_EQ(asked.output, run("paint").messages);
+    EXPECT_EQ(asked.messages, "");
 }
 
 TEST_F(GrfProgram, SaysWhichFileItCouldNotUse) {

@@ -20,6 +20,7 @@ enum ExitStatus { kFit = 0, kProbeFailed = 1, kUnfit = 2, kMisused = 3 };
 
 constexpr std::string_view kUsage = R"(usage: quarlo-doctor [--limit SECONDS] [PLATFORM [NUMBER...]]
        quarlo-doctor --services
+       quarlo-doctor --help
 
 Examines a platform library, the host platform without PLATFORM: which services it
 has, what the missing ones cost, and whether those that can be tried work. With
@@ -32,6 +33,7 @@ cannot be loaded; 3 wrong usage.
 )";
 
 struct Options {
+    bool help = false;
     bool services = false;
     std::chrono::seconds limit{5};
     std::string platform = "libgpi.so.1";
@@ -51,7 +53,9 @@ std::optional<Options> parse(int argc, char** argv) {
     bool named = false;
     for (int i = 1; i < argc; ++i) {
         const std::string_view word = argv[i];
-        if (word == "--services") {
+        if (word == "--help") {
+            options.help = true;
+        } else if (word == "--services") {
             options.services = true;
         } else if (word == "--limit" && i + 1 < argc) {
             const auto limit = numberIn(argv[++i]);
@@ -93,6 +97,10 @@ int main(int argc, char** argv) {
     if (!options) {
         std::cerr << kUsage;
         return kMisused;
+    }
+    if (options->help) {
+        std::cout << kUsage;
+        return kFit;
     }
     if (options->services) {
         doctor::printServices(std::cout);

@@ -28,6 +28,7 @@ constexpr const char* kUsage =
        quarlo-grf info [FILE...]
        quarlo-grf check [FILE...]
        quarlo-grf dump [--name NAME] [--header] [--output FILE] [FILE...]
+       quarlo-grf --help
 
 encode  makes a GRF file of a PNG file, for surfaces of a format: direct values,
         or with --pack a palette and as many bits for each pixel. On a palette
@@ -184,6 +185,10 @@ struct Command {
 };
 
 ExitStatus dispatch(std::span<const std::string> words) {
+    if (words.size() == 1 && words[0] == "--help") {
+        std::cout << kUsage;
+        return kDone;
+    }
     constexpr size_t kAny = SIZE_MAX;
     const Command commands[] = {
         {"encode", 2, {"--surface", "--pack", "--colors", "--matte"}, {"--quiet"}, encode},
