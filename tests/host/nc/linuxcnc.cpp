@@ -1,22 +1,40 @@
 #include "linuxcnc.h"
 
+#include "turn.h"
+
 #include <fcntl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <filesystem>
 #include <fstream>
+#include <iostream>
 #include <iterator>
 #include <utility>
 
 namespace gpi::nc::test {
+namespace {
+
+/// Takes the turn, if this process does not have it yet. A test's time counts from what is said.
+void takeTurn() {
+    static const Turn turn(LinuxCnc::turn());
+    std::cout << "LinuxCNC is free\n" << std::flush;
+}
+
+} // namespace
 
 bool LinuxCnc::installed() {
     return std::filesystem::exists("/usr/bin/linuxcnc") &&
            std::filesystem::exists("/usr/share/doc/linuxcnc/examples");
 }
 
-LinuxCnc::LinuxCnc(std::string folder) : folder_(std::move(folder)), process_(fork()) {
+std::string LinuxCnc::turn() {
+    return std::filesystem::temp_directory_path() / "quarlo-linuxcnc.lock";
+}
+
+LinuxCnc::LinuxCnc(std::string folder) : folder_(std::move(folder)) {
+    takeTurn();
+    process_ = fork();
     if (process_ == 0) {
         const int nowhere = open("/dev/null", O_RDWR | O_CLOEXEC);
         const int log =

@@ -1,6 +1,7 @@
 // The services in front of the real LinuxCNC, which runs in simulation for the time of the tests.
 #include "linuxcnc.h"
 #include "panel.h"
+#include "turn.h"
 
 #include <algorithm>
 #include <cmath>
@@ -94,6 +95,10 @@ class LinuxCncServices : public testing::Test {
     static inline std::unique_ptr<LinuxCnc> control;
     static inline std::unique_ptr<StartedPlatform> platform;
 };
+
+TEST_F(LinuxCncServices, HaveTheOnlyOne) {
+    EXPECT_FALSE(Turn::isFree(LinuxCnc::turn()));
+}
 
 TEST_F(LinuxCncServices, TellWhatTheMachineIs) {
     EXPECT_EQ(text(G_NC_CONTROL_NAME).substr(0, 9), u"LinuxCNC ");

@@ -1,5 +1,6 @@
 #!/bin/sh
-# Runs LinuxCNC in simulation, without a display, until a file "stop" appears in the folder.
+# Runs LinuxCNC in simulation, without a display, until a file "stop" appears in the folder or the
+# program that asked for it is gone.
 #
 #     run_linuxcnc.sh FOLDER
 #
@@ -20,7 +21,7 @@ grep -v -E '^(INTRO_|HALUI|HALFILE = axis_manual|PROGRAM_EXTENSION|png|gif|jpg|p
 cp "$samples/sim_mm.tbl" "$folder/configuration/"
 cat >"$folder/configuration/display" <<EOF
 #!/bin/sh
-while [ ! -e "$folder/stop" ]; do sleep 0.05; done
+while [ ! -e "$folder/stop" ] && [ -e /proc/$PPID ]; do sleep 0.05; done
 EOF
 chmod +x "$folder/configuration/display"
 
