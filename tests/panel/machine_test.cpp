@@ -31,6 +31,17 @@ TEST(Machine, JogsAsLongAsTheKeyIsHeld) {
     EXPECT_LT(bench.machine().work[kX], 35.0);
 }
 
+TEST(Machine, IsLookedAtAsOftenAsItIsAskedFor) {
+    for (const uint32_t rate : {5U, 20U, 50U, 100U}) {
+        Bench bench({}, 0, nullptr, rate);
+        bench.run(std::string(kMakeReady) + "down PadAdd\nwait 2500");
+        ASSERT_EQ(bench.machine().state, G_NC_STATE_RUNNING);
+        EXPECT_EQ(bench.context().counters[Counters::EventsOfSecond],
+                  static_cast<int32_t>(rate) + 1)
+            << "and the second itself";
+    }
+}
+
 TEST(Machine, JogsByStepsOfTheChosenAxis) {
     Bench bench;
     bench.run(std::string(kMakeReady) + "key X\nkey J\nkey PadSubtract\nwait 1000");

@@ -25,7 +25,8 @@ Environment::Values valuesFor(const Environment::Values& changes, const std::str
 
 } // namespace
 
-Bench::Bench(const Environment::Values& changes, size_t language, std::function<void()> onFrame)
+Bench::Bench(const Environment::Values& changes, size_t language, std::function<void()> onFrame,
+             uint32_t rate)
     : platform_(valuesFor(changes, user_.path(), files_.path())) {
     GetGPIFunction();
     GPIHostHoldClock(kStartTime);
@@ -33,6 +34,7 @@ Bench::Bench(const Environment::Values& changes, size_t language, std::function<
     options.scripted = true;
     options.language = language;
     options.onFrame = std::move(onFrame);
+    options.rate = rate;
     EXPECT_TRUE(canPaint());
     panel_.emplace(options);
 }

@@ -23,8 +23,9 @@ inline constexpr uint32_t kStartTime = 1'709'280'000;
 class Bench {
   public:
     /// @param onFrame called behind the end of each frame
+    /// @param rate looks at a machine that moves, a second
     explicit Bench(const Environment::Values& changes = {}, size_t language = 0,
-                   std::function<void()> onFrame = nullptr);
+                   std::function<void()> onFrame = nullptr, uint32_t rate = PanelOptions().rate);
 
     /// Carries out the lines of a script. Fails the test when one is wrong.
     void run(const std::string& lines);
