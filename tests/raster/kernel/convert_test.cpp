@@ -48,9 +48,6 @@ constexpr Named kLayouts[] = {
     {"wider palette", 24, 0x3FF00000, 0x000FFC00, 0x000003FF, true},
 };
 
-/// Fewer than a byte can name.
-constexpr uint32_t kPaletteCount = 200;
-
 std::vector<uint8_t> randomBytes(Random& random, size_t size) {
     std::vector<uint8_t> bytes(size);
     std::generate(bytes.begin(), bytes.end(), [&] { return static_cast<uint8_t>(random.bits()); });
@@ -63,7 +60,7 @@ PixelLayout layoutOf(const Named& named, const std::vector<uint32_t>& palette) {
             named.green,
             named.blue,
             named.indexed ? palette.data() : nullptr,
-            named.indexed ? kPaletteCount : 0};
+            named.indexed ? static_cast<uint32_t>(palette.size()) : 0};
 }
 
 uint32_t load(const uint8_t* at, int bytes) {
@@ -116,7 +113,10 @@ std::vector<uint8_t> modelled(std::vector<uint8_t> to, const uint8_t* from,
 
 class ConvertRect : public testing::Test {
   protected:
-    ConvertRect() : palette(kPaletteCount) {
+    ConvertRect() { fillPalette(200); } // fewer than a byte can name
+
+    void fillPalette(size_t count) {
+        palette.resize(count);
         std::generate(palette.begin(), palette.end(),
                       [&] { return static_cast<uint32_t>(random.bits()); });
     }
@@ -190,6 +190,17 @@ TEST_F(ConvertRect, EveryWidthOfTheUsualPairs) {
                 check(rgb555, kLayouts[0], width, mode, side);
                 check(rgb555, kLayouts[3], width, mode, side);
                 check(rgb24, kLayouts[11], width, mode, side);
+            }
+        }
+    }
+}
+
+TEST_F(ConvertRect, PalettesOfAllThatAByteCanNameAndMore) {
+    for (const size_t count : {256, 257}) {
+        fillPalette(count);
+        for (const Named& source : kLayouts) {
+            if (source.indexed) {
+                check(source, kLayouts[10], 5000, 0, Against::End);
             }
         }
     }
