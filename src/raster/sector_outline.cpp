@@ -27,9 +27,8 @@ class ThinRadius {
         if (row < std::min(line_.y1, line_.y2) || row > std::max(line_.y1, line_.y2)) {
             return;
         }
-        if (course_.count() == 1) { // the end is the centre
-            runs.add(line_.x1, line_.x1);
-            return;
+        if (course_.count() == 1) {
+            return; // the end is the centre, which is the arc's too
         }
         const int16_t y = low16(row);
         const StepRange steps = course_.stepsWithin({INT16_MIN, y, INT16_MAX, y}, 0, 0);
