@@ -5,6 +5,12 @@
 
 namespace {
 
+const uint32_t kAtTheStart = GDQueryGlobalError();
+
+TEST(GlobalError, IsNoneAtTheStart) {
+    EXPECT_EQ(kAtTheStart, 0U);
+}
+
 TEST(GlobalError, KeepsTheLowBits) {
     GDSetGlobalError(0x12345);
     EXPECT_EQ(GDQueryGlobalError(), 0x2345U);

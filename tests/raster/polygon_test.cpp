@@ -261,6 +261,18 @@ TEST_F(Polygon, TakesAMarkerTooNearTheEndForACoordinate) {
     EXPECT_EQ(pixelAt(*drawing.surface(), 0, 1), 1U);
 }
 
+TEST_F(Polygon, TakesThreePointsOfATableForCoordinates) {
+    Drawing drawing(9, 3);
+    fillOnly(drawing);
+    struct {
+        GPoint points[4]; // the third tells how far behind it the columns are
+        int16_t columns[3];
+    } edge{{{1, 0}, {-32768, 0}, {8, 0}, {1, 2}}, {5, 5, 5}};
+    GPoly poly{3, edge.points, {}};
+    GDDrawPoly(drawing, &poly);
+    EXPECT_TRUE(shows(*drawing.surface(), {".........", ".........", "........."}));
+}
+
 /// A polygon of random points, filled in one of several ways.
 struct Fill {
     std::vector<GPoint> points;

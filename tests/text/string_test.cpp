@@ -1,6 +1,9 @@
 #include "text/text_test.h"
 
 #include "raster/pixel_ops.h"
+#include "support/records.h"
+
+#include <quarlo/point.h>
 
 #include <cstring>
 
@@ -36,19 +39,37 @@ TEST_F(String, MovesThePenPastEachGlyphAlsoOutOfSight) {
     EXPECT_EQ(drawing->penPos.y, 500);
 }
 
+/// The bytes of a surface on which two letters were drawn.
+std::vector<uint8_t> lettersAt(Drawing& drawing, ScriptedFont& font, int16_t x, int16_t y) {
+    GDSetFont(drawing, font.get());
+    GDMoveTo(drawing, x, y);
+    GDDrawString(drawing, u"AB");
+    const GuardedMemory& memory = drawing.surface().memory();
+    return {memory.data(), memory.data() + memory.size()};
+}
+
 TEST_F(String, BeginsWhereTheOriginPutsThePen) {
     ScriptedFont font(platform);
-    const auto drawAt = [&](GPoint origin, int16_t x, int16_t y) {
-        Drawing drawing(40, 12);
-        GDSetLocalOrigin(drawing, &origin);
-        GDSetFont(drawing, font.get());
-        GDMoveTo(drawing, x, y);
-        GDDrawString(drawing, u"AB");
-        const GuardedMemory& memory = drawing.surface().memory();
-        return std::vector<uint8_t>(memory.data(), memory.data() + memory.size());
-    };
-    EXPECT_EQ(drawAt({100, 50}, 103, 52), drawAt({0, 0}, 3, 2));
-    EXPECT_NE(drawAt({0, 0}, 3, 2), drawAt({0, 0}, 4, 2));
+    Drawing plain(40, 12);
+    Drawing moved(40, 12);
+    const GPoint origin{100, 50};
+    GDSetLocalOrigin(moved, &origin);
+    EXPECT_EQ(lettersAt(moved, font, 103, 52), lettersAt(plain, font, 3, 2));
+    Drawing beside(40, 12);
+    EXPECT_NE(lettersAt(beside, font, 4, 2), lettersAt(plain, font, 3, 2));
+}
+
+TEST_F(String, GoesOnByTheWidthOfItsGlyphsOnTheSurface) {
+    ScriptedFont font(platform);
+    Drawing plain(40, 12);
+    Drawing stretched(40, 12);
+    const GRect twice{0, 0, 79, 23};
+    GDSetVirtualMode(stretched);
+    GDSetVirtualRect(stretched, &twice);
+    EXPECT_EQ(lettersAt(stretched, font, 6, 4), lettersAt(plain, font, 3, 2));
+    GPoint pen = stretched->penPos;
+    GPTVirtualToPhysicalPoint(stretched, &pen);
+    EXPECT_EQ(pen, plain->penPos);
 }
 
 TEST_F(String, TakesALineFeedForAGlyph) {
