@@ -145,6 +145,27 @@ TEST_F(Grf, IsDrawnAsByAPlainModel) {
     }
 }
 
+int32_t drawImage(GDrawHandle* handle, const GGrfImage* image, const uint8_t* stream, int16_t x,
+                  int16_t y, int16_t width, int16_t height) {
+    GGrfImage withStream = *image;
+    withStream.data = stream;
+    GGrfImage* pointer = &withStream;
+    return GDDrawImage(handle, &pointer, x, y, width, height);
+}
+
+TEST_F(Grf, PaintsEachPixelOnce) {
+    platform.countPaint();
+    for (const auto draw : {GDDrawGrf, drawImage}) {
+        forRandomCalls(500, 1, randomGrf, [&](auto calls) -> std::string {
+            if (calls.empty()) {
+                return "";
+            }
+            calls[0].mode = kCountingMode;
+            return grfDifference(calls[0], GrfThrough::Device, 8, draw, drawGrfByModel);
+        });
+    }
+}
+
 TEST_F(Grf, LeavesTheSameCellsByKernelsAndBySlots) {
     forRandomCalls(300, 1, randomGrf, [&](const auto& calls) -> std::string {
         if (calls.empty()) {

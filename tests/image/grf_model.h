@@ -3,6 +3,7 @@
 
 #include "support/guarded_surface.h"
 #include "support/random_calls.h"
+#include "support/recording_platform.h"
 
 #include <quarlo/draw.h>
 #include <quarlo/image.h>
@@ -108,7 +109,8 @@ inline std::vector<GrfPixel> grfPixels(const GrfCase& call, int32_t unitBytes, b
     return pixels;
 }
 
-/// Combines a value into a pixel of a surface inside a clip rectangle.
+/// Combines a value into a pixel of a surface inside a clip rectangle. The mode may be
+/// kCountingMode.
 inline void plotByModel(GuardedSurface& surface, const GRect& clip, int32_t x, int32_t y,
                         uint32_t value, int32_t mode) {
     if (x < clip.left || x > clip.right || y < clip.top || y > clip.bottom) {
@@ -116,7 +118,7 @@ inline void plotByModel(GuardedSurface& surface, const GRect& clip, int32_t x, i
     }
     const uint32_t mask = 0xFFFFFFU >> (24 - surface->bitsPerPixel);
     const uint32_t old = pixelAt(*surface, x, y);
-    const uint32_t results[] = {value, old & value, old | value, old ^ value};
+    const uint32_t results[] = {value, old & value, old | value, old ^ value, old + 1};
     setPixelAt(*surface, x, y, results[mode] & mask);
 }
 

@@ -193,6 +193,17 @@ TEST_F(GrfZoom, IsDrawnAsByAPlainModel) {
     }
 }
 
+TEST_F(GrfZoom, PaintsEachPixelOnce) {
+    platform.countPaint();
+    forRandomCalls(1000, 1, randomZoom, [&](auto calls) -> std::string {
+        if (calls.empty()) {
+            return "";
+        }
+        calls[0].mode = kCountingMode;
+        return grfDifference(calls[0], GrfThrough::Device, 8, GDDrawGrfZoom, zoomByModel);
+    });
+}
+
 TEST_F(GrfZoom, ToAnyBoxEndsSoon) {
     Random random(testSeed());
     std::vector<uint8_t> stream;

@@ -114,20 +114,6 @@ std::string difference(const LayeredShape& shape, const Figure& figure) {
     return wrong;
 }
 
-int32_t count(GVram& surface, int32_t x, int32_t y) {
-    setPixelAt(surface, x, y, pixelAt(surface, x, y) + 1);
-    return 1;
-}
-
-int32_t countRect(GVram& surface, const GRect& rect) {
-    for (int32_t y = rect.top; y <= rect.bottom; ++y) {
-        for (int32_t x = rect.left; x <= rect.right; ++x) {
-            count(surface, x, y);
-        }
-    }
-    return 1;
-}
-
 } // namespace
 
 void PaintStyle::applyTo(GDrawHandle* handle) const {
@@ -181,13 +167,7 @@ void Layers::addRun(int32_t left, int32_t right, int32_t y) {
 }
 
 void Layers::take() {
-    for (int32_t y = 0; y < kCountedHeight; ++y) {
-        for (int32_t x = 0; x < kCountedWidth; ++x) {
-            if ((pixelAt(*drawing_.surface(), x, y) & 1) != 0) {
-                counts_.add(x, y);
-            }
-        }
-    }
+    counts_.add(drawing_.surface().memory());
     wipe();
 }
 
@@ -265,26 +245,8 @@ void Layers::addPolygon(const std::vector<ModelEdge>& edges) {
     }
 }
 
-void serveCounting(RecordingPlatform& platform) {
-    platform.recordOperations(false);
-    platform.serve<5>([](GDrawHandle*, GVram* surface, int16_t x, int16_t y, uint32_t, int32_t) {
-        return count(*surface, x, y);
-    });
-    platform.serve<6>(
-        [](GDrawHandle*, GVram* surface, int16_t x, int16_t y, uint32_t, int32_t, int16_t length) {
-            return countRect(*surface, {x, y, low16(x + length - 1), y});
-        });
-    const auto fill = [](GDrawHandle*, GVram* surface, const GRect* rect, uint32_t, int32_t) {
-        return countRect(*surface, *rect);
-    };
-    platform.serve<67>(fill);
-    platform.serve<68>(fill);
-    platform.serve<70>([](GDrawHandle*, GVram* surface, const GRect* rect, uint32_t, uint32_t,
-                          int32_t, const uint8_t*) { return countRect(*surface, *rect); });
-}
-
 void expectPaintedInLayers(RecordingPlatform& platform, const LayeredShape& shape, int rounds) {
-    serveCounting(platform);
+    platform.countPaint();
     for (const bool rectangles : {true, false}) {
         if (!rectangles) {
             platform.remove({67, 68, 70});

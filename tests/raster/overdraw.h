@@ -56,6 +56,12 @@ std::ostream& operator<<(std::ostream& out, const Figure& figure);
 class PaintCounts {
   public:
     void add(int32_t x, int32_t y) { ++counts_.at(placeOf(x, y)); }
+    /// Adds the pixels of a surface of 8 bits a pixel that are odd.
+    void add(const GuardedMemory& surface) {
+        for (size_t i = 0; i < counts_.size(); ++i) {
+            counts_[i] = static_cast<uint8_t>(counts_[i] + (surface.data()[i] & 1));
+        }
+    }
     uint8_t at(int32_t x, int32_t y) const { return counts_.at(placeOf(x, y)); }
 
   private:
@@ -135,9 +141,6 @@ struct LayeredShape {
         return out << shape.name;
     }
 };
-
-/// Has device operations take each pixel of 8 bits one up, whatever the colour and the mode.
-void serveCounting(RecordingPlatform& platform);
 
 /// Draws random figures in all styles, by the kernels in every format and on a device with
 /// and without operations for rectangles; fails with the first whose pixels are painted more or

@@ -41,6 +41,11 @@ int32_t fill(GDrawHandle*, GVram* surface, const GRect* rect, uint32_t pixel, in
     return forEachPixel(*rect, [=](int x, int y) { plot(*surface, x, y, pixel, mode); });
 }
 
+int32_t takeUp(GVram& surface, const GRect& rect) {
+    return forEachPixel(
+        rect, [&](int x, int y) { setPixelAt(surface, x, y, pixelAt(surface, x, y) + 1); });
+}
+
 } // namespace
 
 void RecordingPlatform::addDisplay(int16_t number, GuardedSurface& surface) {
@@ -91,6 +96,24 @@ void RecordingPlatform::serveOperations() {
             plot(*surface, x, y, set ? fore : back, mode);
         });
     });
+}
+
+void RecordingPlatform::countPaint() {
+    recordOperations(false);
+    serve<5>([](GDrawHandle*, GVram* surface, int16_t x, int16_t y, uint32_t, int32_t) {
+        return takeUp(*surface, {x, y, x, y});
+    });
+    serve<6>(
+        [](GDrawHandle*, GVram* surface, int16_t x, int16_t y, uint32_t, int32_t, int16_t length) {
+            return takeUp(*surface, {x, y, static_cast<int16_t>(x + length - 1), y});
+        });
+    const auto countRect = [](GDrawHandle*, GVram* surface, const GRect* rect, uint32_t, int32_t) {
+        return takeUp(*surface, *rect);
+    };
+    serve<67>(countRect);
+    serve<68>(countRect);
+    serve<70>([](GDrawHandle*, GVram* surface, const GRect* rect, uint32_t, uint32_t, int32_t,
+                 const uint8_t*) { return takeUp(*surface, *rect); });
 }
 
 } // namespace quarlo::test

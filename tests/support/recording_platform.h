@@ -68,6 +68,10 @@ ServiceCall call(int service, Args... args) {
     return {service, {asWord(args)...}};
 }
 
+/// A drawing mode that the library does not know: models take a pixel one up, and so do the
+/// operations of RecordingPlatform::countPaint(), in any mode.
+inline constexpr int32_t kCountingMode = 4;
+
 /// The one platform of the process while it lives. It starts with every service bound, no device
 /// surface and nothing recorded. At its end it fails the test for blocks that were not freed.
 class RecordingPlatform {
@@ -134,6 +138,9 @@ class RecordingPlatform {
     int displaysInUse() const { return displaysInUse_; }
     /// Keeps device operations (5, 6, 7, 43, 67, 68, 70) out of `calls`.
     void recordOperations(bool record) { recordOperations_ = record; }
+    /// Has device operations take each pixel of 8 bits one up, whatever the colour and the mode: a
+    /// surface of zeros then tells how often its pixels were painted. None is recorded.
+    void countPaint();
 
     /// Ticks of the clock (services 27 and 28).
     int64_t clock = 0;

@@ -17,6 +17,11 @@ TEST_F(CaptionCursor, WithoutASelectionIsDrawnAsByAPlainModel) {
     expectLikeModel(platform, CaptionKind::CursorWithoutSelection);
 }
 
+TEST_F(CaptionCursor, PaintsEachPixelAsOftenAsAPlainModel) {
+    expectPaintedLikeModel(platform, CaptionKind::Cursor);
+    expectPaintedLikeModel(platform, CaptionKind::CursorWithoutSelection);
+}
+
 TEST_F(CaptionCursor, OnEmptyTextIsShownAlone) {
     ScriptedFont font(platform);
     for (const uint8_t style : {G_CURSOR_BAR, G_CURSOR_BLOCK}) {

@@ -220,7 +220,7 @@ class CaptionModel {
 
     void fillBox(int32_t left, int32_t top, int32_t right, uint32_t color, bool inverting) {
         const int32_t mode = canvas_.mode;
-        canvas_.mode = inverting ? 3 : mode;
+        canvas_.mode = inverting && mode != kCountingMode ? 3 : mode;
         if (left <= right && color != G_NO_COLOR) {
             canvas_.fill(left, top, right, top + step_, color);
         }

@@ -36,6 +36,11 @@ TEST_F(Caption, IsScrolledAsByAPlainModel) {
     expectLikeModel(platform, CaptionKind::Scrolled);
 }
 
+TEST_F(Caption, PaintsEachPixelAsOftenAsAPlainModel) {
+    expectPaintedLikeModel(platform, CaptionKind::Plain);
+    expectPaintedLikeModel(platform, CaptionKind::Scrolled);
+}
+
 TEST_F(Caption, InARectangleSmallerThanItsMarginsIsNothing) {
     ScriptedFont font(platform);
     Drawing drawing(40, 40);

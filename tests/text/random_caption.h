@@ -87,8 +87,10 @@ inline void drawByModel(CaptionModel model, CaptionKind kind) {
 
 /// What is wrong after a caption; an empty text if nothing is.
 inline std::string captionDifference(ScriptedFont& font, CaptionKind kind, CaptionCase call,
-                                     int16_t depth, const GRect& clip, bool copiedOps) {
-    Drawing drawing(90, 60, depth);
+                                     int16_t depth, const GRect& clip, TextThrough through) {
+    Drawing memory(90, 60, depth);
+    DeviceDrawing device(90, 60, depth);
+    Drawing& drawing = through == TextThrough::Device ? device : memory;
     if (kind == CaptionKind::CursorWithoutSelection) {
         call.selection = {};
     }
@@ -101,7 +103,7 @@ inline std::string captionDifference(ScriptedFont& font, CaptionKind kind, Capti
     GDSetPenColor(drawing, call.pen);
     GDSetBackColor(drawing, call.back);
     CopiedOps ops;
-    if (copiedOps) {
+    if (through == TextThrough::CopiedOps) {
         ops.attach(drawing);
     }
     TextModel canvas(*drawing.surface());
@@ -131,15 +133,29 @@ inline std::string captionDifference(ScriptedFont& font, CaptionKind kind, Capti
 /// otherwise.
 inline void expectLikeModel(RecordingPlatform& platform, CaptionKind kind) {
     for (const int16_t depth : kDepths) {
-        for (const bool copiedOps : {false, true}) {
+        for (const TextThrough through : {TextThrough::Kernels, TextThrough::CopiedOps}) {
             ScriptedFont font(platform, depth == 16 ? 2 : 1);
             forRandomCalls(300, 1, randomCaption, [&](const auto& calls) -> std::string {
                 return calls.empty() ? ""
                                      : captionDifference(font, kind, calls[0], depth,
-                                                         {4, 3, 84, 55}, copiedOps);
+                                                         {4, 3, 84, 55}, through);
             });
         }
     }
+}
+
+/// Draws random captions of a kind where paint is counted; fails with the first whose pixels the
+/// model paints more or less often.
+inline void expectPaintedLikeModel(RecordingPlatform& platform, CaptionKind kind) {
+    platform.countPaint();
+    ScriptedFont font(platform);
+    forRandomCalls(500, 1, randomCaption, [&](auto calls) -> std::string {
+        if (calls.empty()) {
+            return "";
+        }
+        calls[0].mode = kCountingMode;
+        return captionDifference(font, kind, calls[0], 8, {4, 3, 84, 55}, TextThrough::Device);
+    });
 }
 
 } // namespace quarlo::test

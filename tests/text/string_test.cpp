@@ -159,8 +159,6 @@ StyledString randomString(Random& random) {
             static_cast<uint16_t>(random.oneIn(6) ? 1 : 0)};
 }
 
-enum class Through { Kernels, CopiedOps, Device };
-
 void drawStyled(GDrawHandle* handle, ScriptedFont& font, const StyledString& string) {
     font.magnify(string.magnifyX, string.magnifyY);
     font.setKind(string.kind);
@@ -185,7 +183,8 @@ void drawByModel(TextModel& model, const ScriptedFont& font, const StyledString&
 TEST_F(String, IsDrawnAsByAPlainModel) {
     const GRect clip{5, 3, 80, 33};
     platform.recordOperations(false);
-    for (const Through through : {Through::Kernels, Through::CopiedOps, Through::Device}) {
+    for (const TextThrough through :
+         {TextThrough::Kernels, TextThrough::CopiedOps, TextThrough::Device}) {
         // A device that has no coverage operation draws all glyph pixels solid.
         platform.remove({43});
         GetGPIFunction();
@@ -195,7 +194,7 @@ TEST_F(String, IsDrawnAsByAPlainModel) {
                 forRandomCalls(25, 4, randomString, [&](const auto& strings) -> std::string {
                     Drawing memory(kWidth, kHeight, depth, Against::End);
                     DeviceDrawing device(kWidth, kHeight, depth);
-                    Drawing& drawing = through == Through::Device ? device : memory;
+                    Drawing& drawing = through == TextThrough::Device ? device : memory;
                     CopiedOps ops;
                     GDSetFont(drawing, font.get());
                     GDSetClipRect(drawing, &clip);
@@ -203,7 +202,7 @@ TEST_F(String, IsDrawnAsByAPlainModel) {
                     model.clip = clip;
                     for (const StyledString& string : strings) {
                         drawStyled(drawing, font, string);
-                        if (through == Through::CopiedOps) {
+                        if (through == TextThrough::CopiedOps) {
                             ops.attach(drawing);
                         }
                         GDDrawString(drawing, string.text.c_str());
@@ -218,6 +217,30 @@ TEST_F(String, IsDrawnAsByAPlainModel) {
                 });
             }
         }
+    }
+}
+
+TEST_F(String, PaintsABackgroundOnceAndItsLettersOnceMore) {
+    const GRect clip{5, 3, 80, 33};
+    platform.countPaint();
+    platform.remove({43});
+    GetGPIFunction();
+    for (const int16_t bits : {int16_t{1}, int16_t{4}}) {
+        ScriptedFont font(platform, bits);
+        forRandomCalls(200, 4, randomString, [&](auto strings) -> std::string {
+            DeviceDrawing drawing(kWidth, kHeight);
+            GDSetFont(drawing, font.get());
+            GDSetClipRect(drawing, &clip);
+            TextModel model(*drawing.surface());
+            model.clip = clip;
+            for (StyledString& string : strings) {
+                string.mode = kCountingMode;
+                drawStyled(drawing, font, string);
+                GDDrawString(drawing, string.text.c_str());
+                drawByModel(model, font, string);
+            }
+            return difference(*drawing.surface(), model);
+        });
     }
 }
 

@@ -19,7 +19,7 @@ struct TextModel {
     int32_t height;
     uint32_t mask; ///< of a pixel value
     GRect clip;
-    int32_t mode = 0;
+    int32_t mode = 0; ///< or kCountingMode
     uint32_t pen = 1;
     uint32_t back = 0;
     bool transparent = false;
@@ -39,7 +39,7 @@ struct TextModel {
             return;
         }
         uint32_t& pixel = pixels[static_cast<size_t>(row * width + column)];
-        const uint32_t results[] = {color, pixel & color, pixel | color, pixel ^ color};
+        const uint32_t results[] = {color, pixel & color, pixel | color, pixel ^ color, pixel + 1};
         pixel = results[mode] & mask;
     }
 

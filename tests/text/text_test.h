@@ -27,6 +27,8 @@ class TextTest : public RasterTest {
     }
 };
 
+enum class TextThrough { Kernels, CopiedOps, Device };
+
 /// The first pixel in which a surface and a model differ, in words; an empty text when none does.
 inline std::string difference(const GVram& surface, const TextModel& model) {
     for (int32_t y = 0; y < surface.height; ++y) {
