@@ -49,6 +49,10 @@ with quarlo.Display() as display:
     assert quarlo.raw.GDGetPixel(display.handle, 0, 0) == display.pixel_value(0xFFFFFF)
 '
 
+# The way to LinuxCNC finds its modules.
+python3 "$(dirname "$0")/../host/nc/linuxcnc/program_test.py" "$prefix/libexec/quarlo" \
+    2>"$work/linuxcnc.log"
+
 # The manual.
 groff -man -Tascii "$prefix/share/man/man3/GDLineTo.3" >"$work/page.txt"
 grep -q 'void GDLineTo(GDrawHandle\* handle, int16_t x, int16_t y);' "$work/page.txt"
