@@ -122,6 +122,16 @@ TEST_F(Border, WithoutAFrameIsComputedWithoutItsInside) {
     expectRect(inner, 7, 7, 7, 7);
 }
 
+TEST_F(Border, KeepsRoomForABlackFrame) {
+    const GRect rect{0, 0, 20, 20};
+    for (const uint32_t frame : {0U, kFrame}) {
+        const GBorderStyle border = style(frame, 3);
+        GRect inner{7, 7, 7, 7};
+        GDCalcBorderRect(&rect, &inner, nullptr, &border);
+        expectRect(inner, 4, 4, 16, 16);
+    }
+}
+
 TEST_F(Border, WithANegativeFrameColourIsFramedButKeepsNoRoomForIt) {
     Drawing drawing(7, 5);
     const GRect rect{0, 0, 6, 4};
