@@ -9,9 +9,13 @@
 #include <algorithm>
 #include <array>
 #include <chrono>
+#include <cstddef>
 #include <cstdlib>
-#include <limits>
+#include <iostream>
 #include <sstream>
+#include <string>
+#include <utility>
+#include <vector>
 
 namespace panel::test {
 namespace {
@@ -82,30 +86,74 @@ std::vector<Input> randomInputs(uint64_t seed) {
     return inputs;
 }
 
-/// The least memory in use in each quarter of a run.
+/// The memory in use while inputs come. Each program that is open counts for itself: what it takes,
+/// with its path, is no growth.
 class Growth {
   public:
-    explicit Growth(size_t steps) : steps_(steps) {
-        least_.fill(std::numeric_limits<size_t>::max());
+    /// Needs no more memory for so many steps.
+    explicit Growth(size_t steps) { uses_.reserve(steps); }
+
+    void note(const std::u16string& program) {
+        const auto known = std::find(programs_.begin(), programs_.end(), program);
+        const auto number = static_cast<size_t>(known - programs_.begin());
+        if (known == programs_.end()) {
+            programs_.push_back(program);
+        }
+        stay_ = number == open_ ? stay_ + 1 : 0;
+        open_ = number;
+        if (stay_ >= kSettled) {
+            uses_.push_back({number, allocatedBytes()});
+        }
     }
 
-    void note(size_t step) {
-        size_t& least = least_[std::min(step * least_.size() / steps_, least_.size() - 1)];
-        least = std::min(least, allocatedBytes());
+    std::string text() const {
+        std::ostringstream text;
+        text << "bytes in use, first half and second:";
+        for (size_t number = 0; number < programs_.size(); ++number) {
+            const auto [first, second] = leastOfHalves(number);
+            text << ' ' << std::string(programs_[number].begin(), programs_[number].end()) << ' '
+                 << first << ' ' << second;
+        }
+        return text.str();
     }
 
     std::string complaint() const {
-        constexpr size_t kAllowed = 64 * 1024;
-        const auto& [first, second, third, fourth] = least_;
-        const std::string text = "bytes in use, quarter by quarter: " + std::to_string(first) +
-                                 ", " + std::to_string(second) + ", " + std::to_string(third) +
-                                 ", " + std::to_string(fourth);
-        return fourth > second + kAllowed ? "memory grows, " + text : "";
+        bool grows = false;
+        for (size_t number = 0; number < programs_.size(); ++number) {
+            const auto [first, second] = leastOfHalves(number);
+            grows = grows || second > first + kAllowed;
+        }
+        return grows ? "memory grows, " + text() : "";
     }
 
   private:
-    size_t steps_;
-    std::array<size_t, 4> least_{};
+    static constexpr size_t kSettled = 500; ///< steps; no path of the program before is left then
+    static constexpr size_t kAllowed = 64 * 1024;
+
+    struct Use {
+        size_t program;
+        size_t bytes;
+    };
+
+    /// While a program was open; 0 if it never was for long.
+    std::pair<size_t, size_t> leastOfHalves(size_t program) const {
+        std::vector<size_t> bytes;
+        for (const Use& use : uses_) {
+            if (use.program == program) {
+                bytes.push_back(use.bytes);
+            }
+        }
+        if (bytes.size() < 2) {
+            return {0, 0};
+        }
+        const auto middle = bytes.begin() + static_cast<std::ptrdiff_t>(bytes.size() / 2);
+        return {*std::min_element(bytes.begin(), middle), *std::min_element(middle, bytes.end())};
+    }
+
+    std::vector<std::u16string> programs_;
+    size_t open_ = 0;
+    size_t stay_ = 0; ///< steps since it was opened
+    std::vector<Use> uses_;
 };
 
 /// The lines of a script that visits all there is, so that nothing is made for the first time
@@ -131,7 +179,7 @@ std::string complaintAbout(const std::vector<Input>& inputs, size_t language, Pr
     for (size_t step = 0; step < inputs.size(); ++step) {
         progress.set(step + 1);
         bench.run(inputs[step].lines);
-        growth.note(step);
+        growth.note(bench.context().program.path());
         if (testing::Test::HasFailure()) {
             return "it refused";
         }
@@ -149,7 +197,11 @@ std::string fate(const std::vector<Input>& inputs, size_t language, Progress& pr
     return inChildProcess([&] {
         Growth growth(inputs.size());
         const std::string wrong = complaintAbout(inputs, language, progress, growth);
-        return wrong.empty() ? growth.complaint() : wrong;
+        if (!wrong.empty()) {
+            return wrong;
+        }
+        std::cout << inputs.size() << " inputs; " << growth.text() << '\n';
+        return growth.complaint();
     });
 }
 
