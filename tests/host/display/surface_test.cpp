@@ -64,6 +64,13 @@ TEST(Surface, HasTheRecordOfItsFormat) {
     }
 }
 
+TEST(SurfaceDeathTest, HasNothingBehindItsLastPixel) {
+    const StartedPlatform platform{{"QUARLO_WIDTH", "40"}, {"QUARLO_HEIGHT", "32"}};
+    const GVram* const page = getSurface(nullptr, 0);
+    volatile uint8_t* const end = page->pixels + page->height * page->bytesPerLine;
+    EXPECT_DEATH(*end = 1, "");
+}
+
 TEST(Surface, IsOneOfFourPages) {
     const StartedPlatform platform;
     for (int32_t number = 0; number < 4; ++number) {

@@ -124,8 +124,8 @@ class Transfer : public testing::TestWithParam<const char*> {
     static std::string difference(const std::vector<Call>& calls) {
         const StartedPlatform platform(format(GetParam()));
         GVram memory = *platform.surface();
-        std::vector<uint8_t> bytes(static_cast<size_t>(memory.height) *
-                                   static_cast<size_t>(memory.bytesPerLine));
+        quarlo::test::GuardedMemory bytes(static_cast<size_t>(memory.height) *
+                                          static_cast<size_t>(memory.bytesPerLine));
         memory.id = G_MEMORY_SURFACE;
         memory.pixels = bytes.data();
         GVram* const surfaces[] = {platform.surface(0), platform.surface(1), &memory};

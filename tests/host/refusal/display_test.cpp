@@ -1,5 +1,6 @@
 // Displays: surfaces that there are not, arguments out of range.
 #include "refusing.h"
+#include "support/guarded_surface.h"
 
 #include <gtest/gtest.h>
 
@@ -8,12 +9,13 @@
 namespace {
 
 using namespace gpi::test;
+using quarlo::test::GuardedMemory;
 
 class DisplayRefuses : public testing::Test {
   protected:
     DisplayRefuses() : display_(*StartedPlatform::surface()) {
         foreign_ = display_;
-        foreign_.pixels = pixels_;
+        foreign_.pixels = pixels_.data();
     }
     /// Whatever was refused has drawn nothing.
     ~DisplayRefuses() override {
@@ -29,7 +31,7 @@ class DisplayRefuses : public testing::Test {
 
     StartedPlatform platform_{{"QUARLO_WIDTH", "40"}, {"QUARLO_HEIGHT", "30"}};
     GVram& display_;
-    uint8_t pixels_[40 * 30 * 2] = {};
+    GuardedMemory pixels_{40 * 30 * 2};
     GVram foreign_; ///< a record like the display's that is none of the platform's
     const GRect rect_{0, 0, 5, 5};
     const uint8_t pattern_[8] = {0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF};
@@ -61,7 +63,7 @@ TEST_F(DisplayRefuses, ToDrawOnForeignSurfaces) {
                   0);
     }
     EXPECT_EQ(refuser<GPIBlockTransfer>(8)(nullptr, nullptr, 0, 0, 5, 5, &display_, 1, 1, 0), 0);
-    EXPECT_EQ(pixels_[0], 0);
+    EXPECT_EQ(pixels_.data()[0], GuardedMemory::kFresh);
 }
 
 TEST_F(DisplayRefuses, RectanglesAndPatternsThatThereAreNot) {
