@@ -2,6 +2,8 @@
 
 #include "support/pages.h"
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
 #include <cstring>
 #include <new>
@@ -81,6 +83,7 @@ GuardedMemory::GuardedMemory(size_t size, Against side, size_t alignment) : size
 }
 
 GuardedMemory::~GuardedMemory() {
+    EXPECT_TRUE(intact()) << "written beside a block of " << size_ << " bytes";
     releasePages(mapping_, mappingSize_);
 }
 

@@ -13,7 +13,7 @@ namespace quarlo::test {
 inline constexpr int16_t kDepths[] = {8, 16, 24};
 
 /// The end of a block that touches an inaccessible page. The bytes between the other end and its
-/// page are watched: intact() tells whether they were written.
+/// page are watched: the test fails at the block's end if they were written, or where it asks.
 enum class Against { End, Start };
 
 /// A block of memory between two inaccessible pages, filled with a pattern.

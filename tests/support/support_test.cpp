@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <numeric>
+#include <utility>
 
 using namespace quarlo::test;
 
@@ -30,8 +31,18 @@ TEST(GuardedMemoryDeathTest, OneByteBeforeTheBlockFaults) {
 TEST(GuardedMemory, BytesOnTheOtherSideAreWatched) {
     GuardedMemory memory(100, Against::End);
     EXPECT_TRUE(memory.intact());
-    memory.data()[-1] = 0;
+    const uint8_t watched = std::exchange(memory.data()[-1], uint8_t{0});
     EXPECT_FALSE(memory.intact());
+    memory.data()[-1] = watched;
+}
+
+TEST(GuardedMemory, ReportsAtItsEndWhatWasWrittenBesideIt) {
+    EXPECT_NONFATAL_FAILURE(
+        {
+            GuardedSurface surface(5, 4, 16);
+            surface->pixels[-1] = 0;
+        },
+        "written beside a block of 40 bytes");
 }
 
 TEST(GuardedMemory, StartsFilledWithAPattern) {
