@@ -5,8 +5,9 @@
 int main(void) {
     GetGPIFunction();
     GDrawHandle* handle = GDInitPlatform(0) ? GDOpenDrawHandle(0, 0) : NULL;
-    if (!handle)
+    if (!handle) {
         return 1;
+    }
     const GVram* display = GDGetVram(handle);
     GDSetColorMode(handle, 1, display->redMask, display->greenMask, display->blueMask);
 

@@ -4,11 +4,13 @@
 
 int main(void) {
     GetGPIFunction();
-    if (!GDInitPlatform(0))
+    if (!GDInitPlatform(0)) {
         return 1;
+    }
     GDrawHandle* handle = GDOpenDrawHandle(0, 0);
-    if (!handle)
+    if (!handle) {
         return 1;
+    }
     GDSetColorMode(handle, 1, 0x7C00, 0x03E0, 0x001F); /* colours are 0xRRGGBB on a 5-5-5 display */
     GDSetPenColor(handle, 0xF0C040);
     GDSetFillAttribute(handle, 16, 0x3060A0, 0x204080); /* pattern 16 in two blues */

@@ -9,11 +9,11 @@ void invertFrame(GDrawHandle* handle, const GRect* rect) {
     hole.top++;
     hole.right--;
     hole.bottom--;
-    const int16_t count = GRCheckRect(&hole) ? GRRestRect(rect, &hole, sides) : 1;
+    const int32_t count = GRCheckRect(&hole) ? GRRestRect(rect, &hole, sides) : 1;
     GDSetPenColor(handle, G_NO_COLOR);
     GDSetFillAttribute(handle, G_FILL_FORE, 0xFFFFFF, 0xFFFFFF);
     GDSetDrawingMode(handle, G_MODE_XOR);
-    for (int16_t i = 0; i < count; i++) {
+    for (int32_t i = 0; i < count; i++) {
         GDDrawRect(handle, &sides[i]);
     }
     GDSetDrawingMode(handle, G_MODE_COPY);

@@ -32,9 +32,10 @@ void show565(GDrawHandle* handle, const uint16_t* values, int16_t width, int16_t
     if (!picture) {
         return;
     }
+    uint8_t* at = picture->pixels;
     for (int32_t i = 0; i < width * height; i++) {
-        picture->pixels[2 * i] = (uint8_t)(values[i] & 0xFF);
-        picture->pixels[2 * i + 1] = (uint8_t)(values[i] >> 8);
+        *at++ = (uint8_t)(values[i] & 0xFF);
+        *at++ = (uint8_t)(values[i] >> 8);
     }
     GDBitBlt(handle, picture, 0, 0, width, height, GDGetVram(handle), 0, 0, G_MODE_COPY);
     GDDeleteVram(picture);

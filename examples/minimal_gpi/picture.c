@@ -45,11 +45,13 @@ static void drawCross(GDrawHandle* handle) {
 
 int main(int argc, char** argv) {
     GetGPIFunction();
-    if (!GDInitPlatform(argc > 1 ? (GWord)argv[1] : 0))
+    if (!GDInitPlatform(argc > 1 ? (GWord)argv[1] : 0)) {
         return 1;
+    }
     GDrawHandle* handle = GDOpenDrawHandle(0, 0);
-    if (!handle)
+    if (!handle) {
         return 1;
+    }
     const GVram* display = GDGetVram(handle);
     GDSetColorMode(handle, 1, display->redMask, display->greenMask, display->blueMask);
     drawSky(handle);

@@ -133,8 +133,7 @@ enum { G_TABLE_EDGE = INT16_MIN };
  * @return 1; 0 with nothing written when the table lies too far away
  */
 static inline int32_t GDSetTableEdge(GPoint run[4], const int16_t* columns, int32_t bottomUp) {
-    const int16_t top = run[0].y < run[3].y ? run[0].y : run[3].y;
-    const int16_t bottom = run[0].y < run[3].y ? run[3].y : run[0].y;
+    const int32_t lowest = run[0].y < run[3].y ? 3 : 0;
 #if UINTPTR_MAX > UINT32_MAX
     const intptr_t distance = (intptr_t)((uintptr_t)columns - (uintptr_t)&run[2]);
     const int32_t reference = (int32_t)distance;
@@ -145,7 +144,7 @@ static inline int32_t GDSetTableEdge(GPoint run[4], const int16_t* columns, int3
     const uintptr_t reference = (uintptr_t)columns;
 #endif
     run[1].x = G_TABLE_EDGE;
-    run[1].y = bottomUp ? bottom : top;
+    run[1].y = run[bottomUp ? lowest : 3 - lowest].y;
     memcpy(&run[2], &reference, sizeof run[2]);
     return 1;
 }

@@ -130,8 +130,9 @@ static inline void GGrfFail(GGrfInspection* inspection, GGrfFault fault, size_t 
 
 static inline void GGrfRequire(GGrfInspection* inspection, int32_t holds, GGrfFault fault,
                                size_t offset) {
-    if (!holds)
+    if (!holds) {
         GGrfFail(inspection, fault, offset);
+    }
 }
 
 static inline int32_t GGrfIsPacked(const GGrfFile* file) {
@@ -150,8 +151,9 @@ static inline int32_t GGrfAreBitsUsable(const GGrfFile* file) {
 
 static inline int32_t GGrfIsColorCountUsable(const GGrfFile* file) {
     const uint32_t count = file->palette.count;
-    if (!GGrfIsPacked(file) && GGrfHasMasks(file))
+    if (!GGrfIsPacked(file) && GGrfHasMasks(file)) {
         return count == 0;
+    }
     return count >= 1 && count <= G_GRF_FILE_COLORS && count <= UINT32_C(1) << file->image.bits;
 }
 
@@ -164,8 +166,9 @@ static inline int32_t GGrfAreMasksUsable(const GGrfFile* file) {
     const uint32_t red = file->redMask;
     const uint32_t green = file->greenMask;
     const uint32_t blue = file->blueMask;
-    if (!GGrfHasMasks(file))
+    if (!GGrfHasMasks(file)) {
         return !GGrfIsPacked(file) && file->image.bits == 8;
+    }
     const int32_t bits = GGrfIsPacked(file) ? 24 : file->image.bits;
     return GGrfIsMaskUsable(red) && GGrfIsMaskUsable(green) && GGrfIsMaskUsable(blue) &&
            (red & green) == 0 && (red & blue) == 0 && (green & blue) == 0 &&
@@ -223,8 +226,9 @@ static inline int32_t GGrfInspectPalette(GGrfInspection* inspection) {
         return 0;
     }
     const uint8_t* const colors = inspection->bytes + G_GRF_FILE_HEADER;
-    for (uint32_t i = 0; i < G_GRF_FILE_COLORS; ++i)
+    for (size_t i = 0; i < G_GRF_FILE_COLORS; ++i) {
         file->colors[i] = i < count ? GGrfReadUnit(colors + 4 * i, 4) : 0;
+    }
     file->palette.colors = file->colors;
     file->image.palette = count != 0 ? &file->palette : NULL;
     return 1;
@@ -234,10 +238,13 @@ static inline int32_t GGrfInspectPalette(GGrfInspection* inspection) {
 static inline int32_t GGrfUnitWithoutColor(const GGrfFile* file, const uint8_t* units,
                                            int32_t count) {
     const int32_t pixels = GGrfPixelsOfUnit(&file->image);
-    for (int32_t i = 0; i < count; ++i)
-        for (int32_t pixel = 0; pixel < pixels; ++pixel)
-            if (GGrfIndexInUnit(units[i], pixel, file->image.bits, 1) >= file->palette.count)
+    for (int32_t i = 0; i < count; ++i) {
+        for (int32_t pixel = 0; pixel < pixels; ++pixel) {
+            if (GGrfIndexInUnit(units[i], pixel, file->image.bits, 1) >= file->palette.count) {
                 return i;
+            }
+        }
+    }
     return count;
 }
 
@@ -259,8 +266,9 @@ static inline void GGrfInspectRuns(GGrfInspection* inspection, size_t start, siz
             GGrfFail(inspection, at == size ? G_GRF_FAULT_NO_END : G_GRF_FAULT_RUN_CUT, start + at);
             return;
         }
-        if (run.kind == G_GRF_NOTHING || run.kind == G_GRF_END || run.count == 0)
+        if (run.kind == G_GRF_NOTHING || run.kind == G_GRF_END || run.count == 0) {
             continue;
+        }
         /* Of the last unit of a packed image, pixels behind the image are left out. */
         const int32_t step = run.kind == G_GRF_SKIP ? 1 : unitPixels;
         if (!behind && run.count > (pixels - position + step - 1) / step) {
@@ -276,8 +284,9 @@ static inline void GGrfInspectRuns(GGrfInspection* inspection, size_t start, siz
             colorless = 1;
         }
     }
-    if (run.next < size)
+    if (run.next < size) {
         GGrfFail(inspection, G_GRF_FAULT_BYTES_AFTER_END, start + run.next);
+    }
 }
 
 static inline int32_t GGrfInspectFile(GGrfFile* file, const uint8_t* bytes, size_t size,
@@ -294,8 +303,9 @@ static inline int32_t GGrfInspectFile(GGrfFile* file, const uint8_t* bytes, size
 }
 
 static inline int32_t GGrfFitsSurface(const GGrfFile* file, const GVram* surface) {
-    if (surface->colorType == G_COLOR_PALETTE)
+    if (surface->colorType == G_COLOR_PALETTE) {
         return !GGrfHasMasks(file);
+    }
     return (GGrfIsPacked(file) || file->image.bits == surface->bitsPerPixel) &&
            file->redMask == surface->redMask && file->greenMask == surface->greenMask &&
            file->blueMask == surface->blueMask;

@@ -49,8 +49,9 @@ static inline int32_t GGrfPixelsOfUnit(const GGrfImage* image) {
 /** A value unit of 1 to 4 bytes, low byte first. */
 static inline uint32_t GGrfReadUnit(const uint8_t* unit, int32_t unitBytes) {
     uint32_t value = 0;
-    for (int32_t i = 0; i < unitBytes; ++i)
+    for (int32_t i = 0; i < unitBytes; ++i) {
         value |= (uint32_t)unit[i] << (8 * i);
+    }
     return value;
 }
 
@@ -71,20 +72,23 @@ static inline uint32_t GGrfIndexInUnit(uint32_t unit, int32_t pixel, int32_t bit
  */
 static inline int32_t GGrfReadRun(const uint8_t* stream, size_t size, size_t at, int32_t unitBytes,
                                   GGrfRun* run) {
-    if (at >= size)
+    if (at >= size) {
         return 0;
+    }
     const int32_t control = stream[at];
     const int32_t kind = control == 0 ? G_GRF_END : control >> 6;
     const int32_t count = control & G_GRF_COUNT_MASK;
     int32_t bytes = 0;
-    if (kind == G_GRF_SKIP)
+    if (kind == G_GRF_SKIP) {
         bytes = 1;
-    else if (kind == G_GRF_LITERAL)
+    } else if (kind == G_GRF_LITERAL) {
         bytes = count * unitBytes;
-    else if (kind == G_GRF_FILL)
+    } else if (kind == G_GRF_FILL) {
         bytes = unitBytes;
-    if (size - at - 1 < (size_t)bytes)
+    }
+    if (size - at - 1 < (size_t)bytes) {
         return 0;
+    }
     run->kind = kind;
     run->count = count;
     run->units = at + 1;
