@@ -63,7 +63,7 @@ class Panel {
     void act(Action action);
     void release(Action action);
     bool isOn(Action action) const;
-    void open(Action screen);
+    void open(Action action);
     void showKeys(bool functions);
     void choose(size_t language);
     void startJog(double direction);

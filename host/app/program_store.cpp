@@ -35,6 +35,7 @@ class Actions {
 pid_t spawn(const std::string& program, std::vector<std::string> words,
             const std::string& directory) {
     std::vector<char*> arguments;
+    arguments.reserve(words.size() + 1);
     for (std::string& word : words) {
         arguments.push_back(word.data());
     }

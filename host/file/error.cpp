@@ -34,7 +34,6 @@ int32_t ioErrorOf(int systemError) {
     case ENAMETOOLONG:
         return G_IO_TOO_LARGE;
     case EINVAL:
-        return G_IO_ARGUMENT;
     case EILSEQ: // a name that is no text
         return G_IO_ARGUMENT;
     case ENOMEM:

@@ -18,7 +18,7 @@ FaceFile choose(const std::string& configured, std::initializer_list<const char*
         return faceFileOf(configured);
     }
     for (const char* name : known) {
-        const FaceFile file = faceFileOf(name);
+        FaceFile file = faceFileOf(name);
         std::error_code error;
         if (std::filesystem::exists(file.path, error)) {
             return file;

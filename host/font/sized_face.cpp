@@ -11,6 +11,8 @@
 namespace gpi {
 namespace {
 
+constexpr FT_F26Dot6 kPixel = 64;
+
 /// Pixels of FreeType's 26.6 fixed point, rounded.
 int pixels(FT_Pos value) {
     return static_cast<int>((value + 32) >> 6);
@@ -107,7 +109,7 @@ void SizedFace::setEm(FT_F26Dot6 width, FT_F26Dot6 height) {
 void SizedFace::scaleToIdeographs() {
     // Ideographs fill their em square, of which about a seventh lies below the base line.
     // Letters reach from 13 sixteenths above their base line to 3 below.
-    setEm(size_.wide * 64, size_.height * 64);
+    setEm(size_.wide * kPixel, size_.height * kPixel);
     ascent_ = grey_ ? (size_.height * 6 + 3) / 7 : (size_.height * 5 + 3) / 6;
     letterAscent_ = size_.height * 13 / 16;
 }
@@ -116,10 +118,10 @@ void SizedFace::scaleToLetters() {
     const FT_Face face = face_.get();
     const FT_Long em = face->units_per_EM;
     const FT_Long extent = std::max<FT_Long>(face->ascender - face->descender, 1);
-    const FT_Long height = size_.height * 64 * em / extent;
+    const FT_Long height = size_.height * kPixel * em / extent;
     FT_Long width = height * size_.wide / size_.height;
     if (pitch_ == Pitch::Fixed && FT_Load_Glyph(face, face_.glyphOf('0'), FT_LOAD_NO_SCALE) == 0) {
-        width = size_.narrow * 64 * em / std::max<FT_Long>(face->glyph->metrics.horiAdvance, 1);
+        width = size_.narrow * kPixel * em / std::max<FT_Long>(face->glyph->metrics.horiAdvance, 1);
     }
     setEm(width, height);
     ascent_ = static_cast<int>((size_.height * FT_Long{face->ascender} + extent / 2) / extent);

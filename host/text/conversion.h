@@ -26,6 +26,7 @@ class Conversion {
     Conversion(const Conversion&) = delete;
     Conversion& operator=(const Conversion&) = delete;
 
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): what stands for none
     bool isOpen() const { return state_ != iconv_t(-1); }
 
     /// Converts as far as the text is sound, appends that, and takes it off the text.

@@ -61,7 +61,7 @@ void TextTarget::blit(const Glyph& glyph, int x, int y, uint32_t pixel) const {
         return;
     }
     const int32_t stride = strideOf(glyph);
-    const quarlo::kernel::GlyphBits bits{glyph.bits + (box.top - y) * stride, stride,
+    const quarlo::kernel::GlyphBits bits{glyph.bits + (box.top - y) * ptrdiff_t{stride}, stride,
                                          glyph.bitsPerPixel, box.left - x};
     kernels_->transparentGlyph(addressOf(box.left, box.top), stride_, bits, widthOf(box),
                                heightOf(box), pixel, G_NO_COLOR);

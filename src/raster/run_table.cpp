@@ -36,7 +36,7 @@ RunTable::RunTable(const Canvas& canvas, int32_t first, int32_t last)
       length_(last_ - first_ + 2),
       block_(first_ > last_ ? 0
                             : static_cast<int64_t>(sizeof(Header)) +
-                                  int64_t{2 * kMostRuns} * length_ * int64_t{sizeof(int16_t)}) {
+                                  int64_t{2} * kMostRuns * length_ * int64_t{sizeof(int16_t)}) {
     if (isReady()) {
         // What no run takes stands where nothing is painted.
         std::fill_n(edge(0), 2 * kMostRuns * length_, low16(canvas.area.right + 1));
@@ -45,7 +45,7 @@ RunTable::RunTable(const Canvas& canvas, int32_t first, int32_t last)
 
 int16_t* RunTable::edge(int32_t number) const {
     auto* const columns = reinterpret_cast<int16_t*>(static_cast<Header*>(block_.get()) + 1);
-    return columns + number * length_;
+    return columns + number * ptrdiff_t{length_};
 }
 
 void RunTable::add(int32_t row, int32_t left, int32_t right) {

@@ -39,20 +39,20 @@ std::optional<Address> toolAddress(int32_t row, int32_t column) {
 struct Range {
     int32_t first;
     int32_t last;
-    int32_t rows() const { return (last - first) / kMacroColumns + 1; }
+    constexpr int32_t rows() const { return (last - first) / kMacroColumns + 1; }
 };
 
 constexpr Range kRanges[] = {{GPI_NC_MACRO_LOCAL_FIRST, GPI_NC_MACRO_LOCAL_LAST},
                              {GPI_NC_MACRO_COMMON_FIRST, GPI_NC_MACRO_COMMON_LAST},
                              {GPI_NC_MACRO_KEPT_FIRST, GPI_NC_MACRO_KEPT_LAST}};
 
-int32_t macroRows() {
+constexpr int32_t kMacroRows = [] {
     int32_t rows = 0;
     for (const Range& range : kRanges) {
         rows += range.rows();
     }
     return rows;
-}
+}();
 
 /// The variable of a place; 0 where there is none.
 int32_t macroOf(int32_t row, int32_t column) {
@@ -80,8 +80,8 @@ std::optional<Address> macroAddress(int32_t row, int32_t column) {
 const Table kWorkOffsetTable{u"WorkOffsetTitle", GPI_NC_WORK_OFFSETS, kAxisColumns, 3, false,
                              workLabel,          workAddress};
 const Table kToolTable{u"ToolOffsetTitle", kTools, kToolColumns, 3, false, toolLabel, toolAddress};
-const Table kMacroTable{u"MacroTitle", macroRows(), kMacroHeadings, kAsNeeded,
-                        true,          macroLabel,  macroAddress};
+const Table kMacroTable{u"MacroTitle", kMacroRows, kMacroHeadings, kAsNeeded,
+                        true,          macroLabel, macroAddress};
 
 std::u16string cellText(const Table& table, const Address& address) {
     if (address.area == G_NC_MACRO && GNCDataIsNotaNumber(kChannel, address.number) != 0) {

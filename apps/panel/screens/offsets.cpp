@@ -43,7 +43,8 @@ class OffsetsScreen : public Screen {
     void show(const Table& table);
     int32_t columns() const { return static_cast<int32_t>(table_->columns.size()); }
     GRect place(const Cell& cell) const;
-    std::u16string& shown(const Cell& cell);
+    size_t indexOf(const Cell& cell) const;
+    std::u16string& shown(const Cell& cell) { return texts_[indexOf(cell)]; }
     std::optional<Address> chosenAddress() const;
     void choose(Cell cell);
     void edit(const std::u16string& text);
@@ -89,7 +90,7 @@ void OffsetsScreen::show(const Table& table) {
     table_ = &table;
     rows_.setCount(table.rows);
     rows_.reveal(chosen_.row);
-    texts_.assign(static_cast<size_t>(rows_.rows() * columns()), {});
+    texts_.assign(static_cast<size_t>(rows_.rows()) * table.columns.size(), {});
     update();
     context_.damage.add(card_.rect);
 }
@@ -108,8 +109,10 @@ void OffsetsScreen::update() {
     }
 }
 
-std::u16string& OffsetsScreen::shown(const Cell& cell) {
-    return texts_[static_cast<size_t>((cell.row - rows_.first()) * columns() + cell.column)];
+/// Of the text of a cell in view.
+size_t OffsetsScreen::indexOf(const Cell& cell) const {
+    const auto row = static_cast<size_t>(cell.row - rows_.first());
+    return row * table_->columns.size() + static_cast<size_t>(cell.column);
 }
 
 GRect OffsetsScreen::place(const Cell& cell) const {
@@ -309,8 +312,7 @@ void OffsetsScreen::drawCell(const Cell& cell) const {
         field_.draw(painter(), rect, Face::Text, Align::Right);
         return;
     }
-    const size_t at = static_cast<size_t>((cell.row - rows_.first()) * columns() + cell.column);
-    painter().text(rect, {Face::Text, Ink::Text, Align::Right}, texts_[at]);
+    painter().text(rect, {Face::Text, Ink::Text, Align::Right}, texts_[indexOf(cell)]);
 }
 
 } // namespace

@@ -70,7 +70,8 @@ std::u16string clockText(uint32_t time) {
 
 std::u16string spanText(double seconds) {
     const auto whole = static_cast<int32_t>(seconds);
-    std::u16string text = wholeText(whole / 3600);
+    const int32_t hours = whole / 3600;
+    std::u16string text = wholeText(hours);
     text += u':';
     appendTwo(text, whole / 60 % 60);
     text += u':';

@@ -70,9 +70,9 @@ int feederOf(int card, const Resources& resources, const Connector& connector) {
 
 bool isPrimary(int card, uint32_t plane) {
     const Properties properties(drmModeObjectGetProperties(card, plane, DRM_MODE_OBJECT_PLANE));
-    for (uint32_t at = 0; properties != nullptr && at < properties->count_props; ++at) {
+    for (uint32_t at = 0; properties && at < properties->count_props; ++at) {
         const Property property(drmModeGetProperty(card, properties->props[at]));
-        if (property != nullptr && std::string_view(property->name) == "type") {
+        if (property && std::string_view(property->name) == "type") {
             return properties->prop_values[at] == DRM_PLANE_TYPE_PRIMARY;
         }
     }

@@ -64,8 +64,8 @@ void ScreenPointer::draw(int y, int left, int width, uint32_t* row) const {
     if (isEmpty(covered) || y < covered.top || y > covered.bottom) {
         return;
     }
-    const auto shape =
-        kArrow.substr(static_cast<size_t>((y - row_) / scale_ * kArrowWidth), size_t{kArrowWidth});
+    const auto line = static_cast<size_t>((y - row_) / scale_);
+    const auto shape = kArrow.substr(line * kArrowWidth, size_t{kArrowWidth});
     const int end = std::min(left + width, covered.right + 1);
     for (int x = std::max(left, int{covered.left}); x < end; ++x) {
         const char part = shape[static_cast<size_t>((x - column_) / scale_)];

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdint>
 
 namespace quarlo::kernel {
@@ -80,10 +81,10 @@ class RunReader {
 
     const uint8_t* at_; ///< the next run
     int32_t width_;
-    int32_t unitBytes_;
+    ptrdiff_t unitBytes_;
     RunPiece::Kind kind_ = RunPiece::Skip;
     const uint8_t* units_ = nullptr; ///< of the rest of this run
-    int32_t step_ = 0;               ///< bytes from the unit of a pixel to that of the next
+    ptrdiff_t step_ = 0;             ///< bytes from the unit of a pixel to that of the next
     int32_t left_ = 0;               ///< pixels of this run
     int32_t x_ = 0;
     int32_t y_ = 0;
