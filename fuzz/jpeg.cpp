@@ -11,7 +11,6 @@
 namespace gpi {
 namespace {
 
-using quarlo::fuzz::Input;
 using quarlo::fuzz::require;
 using quarlo::test::GuardedSurface;
 

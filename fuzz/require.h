@@ -1,15 +1,15 @@
 // What must hold for every input.
 #pragma once
 
-#include <cstdio>
 #include <cstdlib>
+#include <iostream>
 
 namespace quarlo::fuzz {
 
 /// Ends the process, as the fuzzer expects it of a failure, unless a condition holds.
 inline void require(bool holds, const char* what) {
     if (!holds) {
-        std::fprintf(stderr, "broken: %s\n", what);
+        std::cerr << "broken: " << what << '\n';
         std::abort();
     }
 }

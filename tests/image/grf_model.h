@@ -131,7 +131,8 @@ inline void drawGrfByModel(GuardedSurface& surface, const GRect& clip, const Grf
     const bool cropped = call.boxWidth > 0 && call.boxHeight > 0;
     for (int32_t y = 0; y < call.height; ++y) {
         for (int32_t x = 0; x < call.width; ++x) {
-            const GrfPixel& pixel = pixels[static_cast<size_t>(y * call.width + x)];
+            const int32_t at = y * call.width + x;
+            const GrfPixel& pixel = pixels[static_cast<size_t>(at)];
             if (pixel.set && !(cropped && (x >= call.boxWidth || y >= call.boxHeight))) {
                 plotByModel(surface, clip, call.x + x, call.y + y, pixel.value, call.mode);
             }
