@@ -168,10 +168,10 @@ void drawWideOutline(const Canvas& canvas, const Ellipse& ellipse, Sides sides,
     if (!table.isReady() || !block) {
         return;
     }
-    auto* rows = static_cast<int32_t*>(block.get());
+    auto* const rows = static_cast<int32_t*>(block.get());
     const Shape shape(ellipse, sides, rows);
-    const Brush outward(penX / 2, penY / 2, rows += shapeSize);
-    const Brush inward((penX - 1) / 2, (penY - 1) / 2, rows += outwardSize);
+    const Brush outward(penX / 2, penY / 2, rows + shapeSize);
+    const Brush inward((penX - 1) / 2, (penY - 1) / 2, rows + shapeSize + outwardSize);
     tabulate(table, {shape, outward, inward}, ellipse, canvas.area, sector);
     table.fill(pixel, pixel, kSolidPattern, mode);
 }

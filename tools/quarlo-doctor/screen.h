@@ -3,6 +3,7 @@
 
 #include "platform.h"
 
+#include <cstddef>
 #include <cstring>
 
 namespace doctor {
@@ -30,10 +31,13 @@ class Screen {
     /// Whether what was drawn can be read back.
     bool isReadable() const { return isUsable() && surface->pixels != nullptr; }
 
+    /// Where a row begins. Only if it is readable.
+    uint8_t* row(int y) const { return surface->pixels + y * ptrdiff_t{surface->bytesPerLine}; }
+
     /// The value of a pixel, its low byte first. Only if it is readable.
     uint32_t pixel(int x, int y) const {
-        const int bytes = surface->bitsPerPixel / 8;
-        const uint8_t* const at = surface->pixels + y * surface->bytesPerLine + x * bytes;
+        const ptrdiff_t bytes = surface->bitsPerPixel / 8;
+        const uint8_t* const at = row(y) + x * bytes;
         uint32_t value = 0;
         for (int i = 0; i < bytes; ++i) {
             value |= uint32_t{at[i]} << 8 * i;
@@ -45,8 +49,7 @@ class Screen {
     void clear() const {
         const int bytes = surface->bitsPerPixel / 8;
         for (int y = 0; y < kExtent; ++y) {
-            std::memset(surface->pixels + y * surface->bytesPerLine, 0,
-                        static_cast<size_t>(kExtent) * static_cast<size_t>(bytes));
+            std::memset(row(y), 0, static_cast<size_t>(kExtent) * static_cast<size_t>(bytes));
         }
     }
 

@@ -42,7 +42,7 @@ Complaint readsClock(const Platform& platform) {
 
 /// Puts the clock an hour on, and back again.
 Complaint setsClock(const Platform& platform) {
-    constexpr int64_t kHour = 3600 * 1000;
+    constexpr int64_t kHour = int64_t{3600} * 1000;
     const auto get = platform.service<GPIGetSystemTime>(GPI_SERVICE_GET_SYSTEM_TIME);
     const auto set = platform.service<GPISetSystemTime>(GPI_SERVICE_SET_SYSTEM_TIME);
     GSystemTime before{};
