@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <ctime>
 #include <sstream>
 
 namespace gpi::nc::test {
@@ -244,10 +245,10 @@ TEST(SimMotion, CatchesUpWithAnHourInSeconds) {
         program += "X100\nX0\n";
     }
     bench.start(program);
-    const int64_t start = steadyMilliseconds();
+    const std::clock_t start = std::clock(); // of the processor, which others may use as well
     bench.wait(3'600'000);
     bench.state();
-    EXPECT_LT(steadyMilliseconds() - start, 20'000) << "an eighth of a second, usually";
+    EXPECT_LT((std::clock() - start) / CLOCKS_PER_SEC, 20) << "an eighth of a second, usually";
     EXPECT_GT(bench.value(G_NC_LINE), 1500.0);
 }
 
