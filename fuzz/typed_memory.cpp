@@ -9,6 +9,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <bit>
 #include <cstring>
 #include <iterator>
 #include <map>
@@ -135,7 +137,9 @@ class Program {
             std::memcpy(&expected, &block->bytes[at], sizeof expected);
         }
         const auto actual = static_cast<Value>(Get(block != nullptr ? block->data : nullptr, at));
-        require(std::memcmp(&actual, &expected, sizeof actual) == 0, "another value was read");
+        using Bytes = std::array<uint8_t, sizeof(Value)>; // by which a NaN equals itself
+        require(std::bit_cast<Bytes>(actual) == std::bit_cast<Bytes>(expected),
+                "another value was read");
     }
 
     void setString() {

@@ -66,7 +66,7 @@ template <typename Result, typename... Args>
 ProgramCall with(const char* name, Result (*function)(Args...), std::vector<int64_t> usual = {}) {
     constexpr bool kTakesHandle =
         ((std::is_same_v<Args, GDrawHandle*> || std::is_same_v<Args, const GDrawHandle*>) || ...);
-    return {name, kTakesHandle, [=](Panel& panel) {
+    return {name, kTakesHandle, [=, usual = std::move(usual)](Panel& panel) {
                 size_t numbers = 0;
                 [[maybe_unused]] const auto next = [&](bool isNumber) {
                     const size_t n = numbers;
