@@ -196,7 +196,7 @@ TEST_F(ConvertRect, EveryWidthOfTheUsualPairs) {
 }
 
 TEST_F(ConvertRect, PalettesOfAllThatAByteCanNameAndMore) {
-    for (const size_t count : {256, 257}) {
+    for (const size_t count : {size_t{256}, size_t{257}}) {
         fillPalette(count);
         for (const Named& source : kLayouts) {
             if (source.indexed) {
