@@ -24,6 +24,27 @@ class ForcedInsertion : public testing::Test {
     EventPlatform platform;
 };
 
+/// What came of two events before the first test, when nobody had set the flag yet.
+class AtTheStart : public testing::Environment {
+  public:
+    void SetUp() override {
+        const RecordingPlatform platform;
+        GEInitEvent();
+        GESetEvent(event(3, 1), 0);
+        GESetEvent(event(7, 2), 0);
+        taken = takeAll();
+    }
+
+    Events taken;
+};
+
+const auto* const kAtTheStart =
+    static_cast<AtTheStart*>(testing::AddGlobalTestEnvironment(new AtTheStart));
+
+TEST_F(ForcedInsertion, IsOffAtTheStart) {
+    EXPECT_EQ(kAtTheStart->taken, (Events{event(3, 1), event(7, 2)}));
+}
+
 TEST_F(ForcedInsertion, GoesBehindItsOwnTypeAndSupersedesItsTarget) {
     post({event(7, 1), event(3, 2), event(9, 3)});
     EXPECT_EQ(GESetEvent(event(7, 2), 0), 1);
