@@ -13,6 +13,8 @@ MODES = {Mode.MANUAL: linuxcnc.MODE_MANUAL,
          Mode.AUTO: linuxcnc.MODE_AUTO,
          Mode.MDI: linuxcnc.MODE_MDI}
 
+ROTARY_AXES = (3, 4, 5)
+
 STANDSTILL = 1e-6  # slower is not moving, machine units a second
 GRACE = 0.05       # for errors of a command that takes long, seconds
 PATIENCE = 0.4     # for the control to take a command, seconds
@@ -68,6 +70,10 @@ class Control:
     def millimetres(self):
         """In a unit of the machine."""
         return 1.0 / (self.status.linear_units or 1.0)
+
+    def scale(self, axis):
+        """Millimetres, or degrees, in a unit of an axis."""
+        return 1.0 if axis in ROTARY_AXES else self.millimetres()
 
     def inches(self):
         """Whether programs are in inches now."""

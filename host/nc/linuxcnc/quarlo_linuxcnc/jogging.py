@@ -5,7 +5,7 @@ import linuxcnc
 
 from quarlo_linuxcnc.numbers import Mode, Result
 
-USUAL_FEED = 1000.0  # of steps before any jog, millimetres a minute
+USUAL_FEED = 1000.0  # of steps before any jog, millimetres or degrees a minute
 
 
 def may_jog(control):
@@ -13,7 +13,8 @@ def may_jog(control):
 
 
 def jog(control, axis, feed):
-    """Jogs an axis until it is told a feed of 0. @param feed millimetres a minute"""
+    """Jogs an axis until it is told a feed of 0. @param feed millimetres or degrees a
+    minute"""
     if feed == 0.0:
         if control.jogs.pop(axis, None) is not None:
             control.command.jog(linuxcnc.JOG_STOP, take_frame(control), axis)
@@ -22,23 +23,23 @@ def jog(control, axis, feed):
         return Result.MODE
     control.jogs[axis] = feed
     control.jog_feeds[axis] = abs(feed)
-    speed = feed / 60.0 * control.status.linear_units
+    speed = feed / 60.0 / control.scale(axis)
     control.command.jog(linuxcnc.JOG_CONTINUOUS, take_frame(control), axis, speed)
     return Result.DONE
 
 
 def jog_step(control, axis, distance):
-    """Jogs an axis by millimetres, at the feed of its last jog."""
+    """Jogs an axis by millimetres or degrees, at the feed of its last jog."""
     if not may_jog(control) or not control.status.inpos:
         return Result.MODE
-    units = control.status.linear_units
-    goal = control.status.actual_position[axis] + distance * units
+    scale = control.scale(axis)
+    goal = control.status.actual_position[axis] + distance / scale
     reach = control.status.axis[axis]
     if not reach["min_position_limit"] <= goal <= reach["max_position_limit"]:
         return Result.RANGE
-    speed = control.jog_feeds.get(axis, USUAL_FEED) / 60.0 * units
+    speed = control.jog_feeds.get(axis, USUAL_FEED) / 60.0 / scale
     control.command.jog(linuxcnc.JOG_INCREMENT, take_frame(control), axis,
-                        speed if distance >= 0.0 else -speed, abs(distance) * units)
+                        speed if distance >= 0.0 else -speed, abs(distance) / scale)
     return Result.DONE
 
 

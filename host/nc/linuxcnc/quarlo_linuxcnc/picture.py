@@ -8,7 +8,6 @@ from quarlo_linuxcnc.numbers import AXIS_NAMES, Area, System, Text
 
 MOST_TOOLS = 99999
 LONGEST_STEP = 1e4  # millimetres
-ROTARY_AXES = (3, 4, 5)
 # Where the control's list of active codes has the groups of gpi/nc.h.
 MODAL_PLACES = (1, 3, 6, 7, 5, 4, 9, 8, 10, 11)
 
@@ -35,7 +34,7 @@ def extent(control):
 
 def axes(control):
     for index, axis in enumerate(control.axes()):
-        scale = 1.0 if axis in ROTARY_AXES else control.millimetres()
+        scale = control.scale(axis)
         yield from positions(control.status, index, axis, scale)
         yield value(Area.JOG, 0, index, control.jogs.get(axis, 0.0))
         for number, offset in control.work_offsets.items():

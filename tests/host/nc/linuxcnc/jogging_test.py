@@ -8,7 +8,7 @@ from bench import BRAKING, EMERGENCY, HOMING, NOT_HOMED, OFF, READY, Bench
 from quarlo_linuxcnc.jogging import jog, jog_step
 from quarlo_linuxcnc.numbers import Result
 
-X, Y = 0, 1
+X, Y, A = 0, 1, 3
 AXES, JOINTS = False, True
 FREE = {"motion_mode": linuxcnc.TRAJ_MODE_FREE}
 
@@ -32,6 +32,13 @@ class Jogs(Bench):
         self.assertEqual(self.given(), [("jog", linuxcnc.JOG_CONTINUOUS, AXES, X, 5.0)])
         jog_step(self.control, X, 3.0)
         self.assertEqual(self.given(), [("jog", linuxcnc.JOG_INCREMENT, AXES, X, 5.0, 1.5)])
+
+    def test_of_rotary_axes_are_in_degrees(self):
+        self.control.status.linear_units = 0.5
+        jog(self.control, A, 600.0)
+        jog_step(self.control, A, 3.0)
+        self.assertEqual(self.given(), [("jog", linuxcnc.JOG_CONTINUOUS, AXES, A, 10.0),
+                                        ("jog", linuxcnc.JOG_INCREMENT, AXES, A, 10.0, 3.0)])
 
     def test_need_power_and_manual_mode(self):
         for status in (OFF, EMERGENCY, READY, HOMING):
