@@ -169,8 +169,10 @@ TEST_F(Polygon, CountsPatternsRoundAndRound) {
 TEST_F(Polygon, OfOnePointDrawsNothing) {
     Drawing drawing(4, 3);
     GDSetFillAttribute(drawing, G_FILL_FORE, 1, 2);
+    drawing->dashPhase = 5;
     draw(drawing, {{2, 1}});
     EXPECT_TRUE(shows(*drawing.surface(), {"....", "....", "...."}));
+    EXPECT_EQ(drawing->dashPhase, 0); // as behind every frame
 }
 
 TEST_F(Polygon, OfAPatternBelowSolidIsNotFilled) {
