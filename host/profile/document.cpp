@@ -7,6 +7,7 @@
 #include <SimpleIni.h>
 
 #include <algorithm>
+#include <iterator>
 
 namespace gpi {
 namespace {
@@ -29,6 +30,12 @@ Encoding encodingOf(std::string_view bytes, const char* codePage) {
     }
     const bool isUtf8 = transcode(bytes, kPlain.name, kPlain.name).has_value();
     return isUtf8 ? kPlain : Encoding{"", codePage};
+}
+
+bool startsWithMark(std::string_view bytes) {
+    return std::any_of(std::begin(kMarked), std::end(kMarked), [bytes](const Encoding& encoding) {
+        return bytes.starts_with(encoding.mark);
+    });
 }
 
 std::string decoded(std::string_view bytes, const Encoding& encoding) {
@@ -178,7 +185,10 @@ std::string ProfileDocument::bytes() const {
         replaceAll(text, "\n", "\r\n");
     }
     const Encoding& encoding = content_->encoding;
-    const auto encoded = transcode(text, "UTF-8", encoding.name);
+    auto encoded = transcode(text, "UTF-8", encoding.name);
+    if (encoded && startsWithMark(*encoded)) { // a line break keeps it from being taken for one
+        encoded = transcode('\n' + text, "UTF-8", encoding.name);
+    }
     if (!encoded) {
         throw IoError(G_IO_UNSUPPORTED);
     }

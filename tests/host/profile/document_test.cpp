@@ -90,6 +90,19 @@ TEST(ProfileDocument, KeepsEncodingAndLineEnds) {
     }
 }
 
+TEST(ProfileDocument, KeepsTextThatStartsLikeAMark) {
+    const std::string text = "\n\xEF\xBB\xBF[A]=1\n[B]\nx=2\n";
+    const std::string utf16 = *gpi::transcode(text, "UTF-8", "UTF-16LE");
+    const std::string west = "\n\xFF\xFE=1\n[B]\nx=2\n"; // letters of a code page
+    for (const std::string& bytes : {text, "\xEF\xBB\xBF" + text, "\xFF\xFE" + utf16, west}) {
+        const ProfileDocument document(bytes, "CP1252");
+        EXPECT_EQ(document.sections(), std::vector<std::string>{"B"});
+        const ProfileDocument again(document.bytes(), "CP1252");
+        EXPECT_EQ(again.sections(), std::vector<std::string>{"B"});
+        EXPECT_EQ(again.bytes(), document.bytes());
+    }
+}
+
 TEST(ProfileDocument, KeepsItsCodePage) {
     const std::string text = "[A]\nName = \xE4\xB8\xBB\xE8\xBB\xB8\n";
     const std::string bytes = *gpi::transcode(text, "UTF-8", "CP932");
