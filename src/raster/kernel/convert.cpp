@@ -16,7 +16,7 @@ class DirectReader {
 
     DirectReader(const PixelLayout&, const PixelMove& move) {
         const MovedBits moved(move);
-        for (int byte = 0; byte < Bytes; ++byte) {
+        for (ptrdiff_t byte = 0; byte < Bytes; ++byte) {
             tabulate(moved.bits + 8 * byte, tables_[byte]);
         }
     }
@@ -84,7 +84,7 @@ void putFour(uint8_t* to, uint32_t first, uint32_t second, uint32_t third, uint3
 template <typename Reader, typename Format, typename Mode>
 [[gnu::noinline]] void convertRow(uint8_t* to, const uint8_t* from, int32_t count,
                                   const Reader& read) {
-    constexpr int kBytes = Reader::kBytes;
+    constexpr ptrdiff_t kBytes = Reader::kBytes;
     for (; count >= 4; count -= 4) {
         putFour<Format, Mode>(to, read(from), read(from + kBytes), read(from + 2 * kBytes),
                               read(from + 3 * kBytes));

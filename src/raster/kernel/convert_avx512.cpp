@@ -20,6 +20,7 @@ namespace quarlo::kernel {
 namespace {
 
 constexpr int kPixels = 64;
+constexpr ptrdiff_t kVectorBytes = 64;
 
 /// Which byte of up to three vectors in a row stands at each place of another.
 struct Selection {
@@ -117,7 +118,7 @@ struct ByteMap {
     }
     ByteMap map;
     for (int i = 0; i < 4; ++i) {
-        map.quarters[i] = _mm512_load_si512(bytes + 64 * i);
+        map.quarters[i] = _mm512_load_si512(bytes + kVectorBytes * i);
     }
     return map;
 }
@@ -155,8 +156,9 @@ template <typename Map, int From, int To, typename Mode, bool Whole>
 convertRun(uint8_t* to, const uint8_t* from, int count, const Map (&maps)[From][To]) {
     __m512i source[From];
     for (int i = 0; i < From; ++i) {
-        source[i] = Whole ? _mm512_loadu_si512(from + 64 * i)
-                          : _mm512_maskz_loadu_epi8(first(count * From - 64 * i), from + 64 * i);
+        source[i] =
+            Whole ? _mm512_loadu_si512(from + kVectorBytes * i)
+                  : _mm512_maskz_loadu_epi8(first(count * From - 64 * i), from + kVectorBytes * i);
     }
     __m512i planes[To];
     for (int byte = 0; byte < From; ++byte) {
@@ -168,7 +170,7 @@ convertRun(uint8_t* to, const uint8_t* from, int count, const Map (&maps)[From][
     }
     for (int i = 0; i < To; ++i) {
         const __m512i line = select<To>(planes, kLines<To>[i]);
-        uint8_t* const at = to + 64 * i;
+        uint8_t* const at = to + kVectorBytes * i;
         if constexpr (Whole) {
             _mm512_storeu_si512(at, combine<Mode>(_mm512_loadu_si512(at), line));
         } else {
@@ -188,8 +190,8 @@ template <typename Mode, typename Map, int From, int To>
         int32_t count = transfer.width;
         for (; count >= kPixels; count -= kPixels) {
             convertRun<Map, From, To, Mode, true>(to, from, kPixels, maps);
-            to += kPixels * To;
-            from += kPixels * From;
+            to += kVectorBytes * To;
+            from += kVectorBytes * From;
         }
         if (count > 0) {
             convertRun<Map, From, To, Mode, false>(to, from, count, maps);
@@ -202,7 +204,7 @@ template <int From, int To, typename Mode>
 convertChannels(const Transfer& transfer, const PixelLayout& from, const PixelLayout& to, int32_t) {
     const MovedBits moved{PixelMove(from, to)};
     BitMatrix matrices[From][To];
-    for (int byte = 0; byte < From; ++byte) {
+    for (ptrdiff_t byte = 0; byte < From; ++byte) {
         for (int i = 0; i < To; ++i) {
             matrices[byte][i] = matrixOf(moved.bits + 8 * byte, i);
         }
