@@ -2,8 +2,8 @@
 # Runs in the fresh Debian of scripts/test-packages and uses the installed packages as people do. Each
 # program draws and reads back, so that a wrong library is noticed.
 set -eu
-cd /work
-export QUARLO_DISPLAY=memory HOME=/work
+cd /package
+export QUARLO_DISPLAY=memory HOME=/package
 
 echo "-- C and C++, by pkg-config"
 # shellcheck disable=SC2046
